@@ -1,0 +1,5 @@
+set(TESSARO_SANITIZE "" CACHE STRING "Sanitizers to build with, as for -fsanitize=")
+if(TESSARO_SANITIZE)
+    add_compile_options(-fsanitize=${TESSARO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer -O1)
+    add_link_options(-fsanitize=${TESSARO_SANITIZE})
+endif()
