@@ -1,0 +1,113 @@
+#include "platform/ColorProfile.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <mutex>
+
+namespace platform {
+
+namespace {
+
+constexpr int steps = 9;
+constexpr int probeCount = steps * steps * steps;
+
+VipsImagePtr transformed(VipsImage *image)
+{
+    VipsImage *out = nullptr;
+    // The intent meant for photographs; printers' profiles bring their own compression of the shadows for it.
+    const int failed = vips_icc_transform(image, &out, "srgb", "embedded", TRUE, "depth", 8, "intent",
+                                          VIPS_INTENT_PERCEPTUAL, nullptr);
+    if (failed)
+        vips_error_clear();
+    return VipsImagePtr(failed ? nullptr : out);
+}
+
+/// A picture of colours spread over the whole cube.
+std::array<uchar, probeCount * 3> probeColors()
+{
+    std::array<uchar, probeCount * 3> colors{};
+    for (int i = 0; i < probeCount; ++i) {
+        const std::array<int, 3> level = {i % steps, i / steps % steps, i / (steps * steps)};
+        for (size_t band = 0; band < 3; ++band)
+            colors[size_t(i) * 3 + band] = uchar(level[band] * 255 / (steps - 1));
+    }
+    return colors;
+}
+
+/// Most cameras embed sRGB in one wording or another. Whether a profile is it shows in what it does to
+/// colours, and knowing that saves the conversion of every pixel.
+bool movesColors(const void *profile, size_t length)
+{
+    const auto colors = probeColors();
+    VipsImagePtr probe(
+        vips_image_new_from_memory_copy(colors.data(), colors.size(), probeCount, 1, 3, VIPS_FORMAT_UCHAR));
+    if (!probe)
+        return true;
+    probe->Type = VIPS_INTERPRETATION_sRGB;
+    vips_image_set_blob_copy(probe.get(), VIPS_META_ICC_NAME, profile, length);
+    const VipsImagePtr moved = transformed(probe.get());
+    size_t size = 0;
+    auto *bytes = moved ? static_cast<uchar *>(vips_image_write_to_memory(moved.get(), &size)) : nullptr;
+    if (!bytes || size != colors.size()) {
+        g_free(bytes);
+        return true;
+    }
+    const bool same = std::equal(colors.begin(), colors.end(), bytes,
+                                 [](int before, int after) { return std::abs(before - after) <= 2; });
+    g_free(bytes);
+    return !same;
+}
+
+/// The photos of a batch mostly carry one profile, so the last answer is kept.
+bool isSRGB(const void *profile, size_t length)
+{
+    static std::mutex mutex;
+    static QByteArray lastProfile;
+    static bool lastAnswer = false;
+    const std::lock_guard lock(mutex);
+    const QByteArray bytes(static_cast<const char *>(profile), qsizetype(length));
+    if (bytes != lastProfile) {
+        lastAnswer = !movesColors(profile, length);
+        lastProfile = bytes;
+    }
+    return lastAnswer;
+}
+
+bool isPlainRGB(const VipsImage *image)
+{
+    return image->BandFmt == VIPS_FORMAT_UCHAR && (image->Bands == 3 || image->Bands == 4) &&
+           image->Type == VIPS_INTERPRETATION_sRGB;
+}
+
+} // namespace
+
+QByteArray sRGBProfile()
+{
+    static const QByteArray bytes = [] {
+        initializeVips();
+        VipsBlob *blob = nullptr;
+        if (vips_profile_load("srgb", &blob, nullptr) || !blob)
+            return QByteArray();
+        size_t length = 0;
+        const void *data = vips_blob_get(blob, &length);
+        const QByteArray copy(static_cast<const char *>(data), qsizetype(length));
+        vips_area_unref(VIPS_AREA(blob));
+        return copy;
+    }();
+    return bytes;
+}
+
+VipsImagePtr toSRGBByProfile(VipsImage *image)
+{
+    const void *profile = nullptr;
+    size_t length = 0;
+    if (!vips_image_get_typeof(image, VIPS_META_ICC_NAME) ||
+        vips_image_get_blob(image, VIPS_META_ICC_NAME, &profile, &length))
+        return nullptr;
+    if (isPlainRGB(image) && isSRGB(profile, length))
+        return nullptr;
+    return transformed(image);
+}
+
+} // namespace platform

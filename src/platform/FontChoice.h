@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/TextAttributes.h"
+
+#include <QFont>
+
+namespace platform {
+
+/// The font for a description, without hinting, so that a layout keeps its shape at every scale. A family
+/// that is not installed is replaced by one of the same metrics where there is one. Needs an application
+/// object.
+QFont fontFor(const FontDescription &description);
+
+/// Whether a family is installed, or has a replacement of the same metrics that is.
+bool isFontFamilyAvailable(const QString &family);
+
+} // namespace platform

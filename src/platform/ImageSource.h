@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/Vips.h"
+
+#include <QSize>
+#include <QString>
+
+namespace platform {
+
+/// Opens one frame of a picture file for reading from top to bottom, as stored, its header read and its
+/// pixels not yet. The format is told from the contents. A decoder that can reduce while it decodes does so
+/// as long as the picture stays at least as large as `wanted`; an empty `wanted` asks for the full size.
+/// Nothing is answered for a file that is no picture of a known format; `takeVipsError()` tells why. A file
+/// that breaks off fails while its pixels are read.
+VipsImagePtr openImageSource(const QString &path, int frame = 0, QSize wanted = {});
+
+} // namespace platform

@@ -1,0 +1,47 @@
+#include "platform/PhotoshopResources.h"
+
+#include <algorithm>
+#include <optional>
+#include <QtEndian>
+
+namespace platform {
+
+namespace {
+
+/// Names and data are filled up to even lengths.
+constexpr qsizetype even(qsizetype length)
+{
+    return length + length % 2;
+}
+
+std::optional<PhotoshopResource> resourceAt(QByteArrayView block, qsizetype at)
+{
+    constexpr qsizetype fixedLength = 12;
+    constexpr qsizetype nameField = 6;
+    if (at + fixedLength > block.size() || !block.sliced(at).startsWith("8BIM"))
+        return {};
+    PhotoshopResource resource;
+    resource.id = qFromBigEndian<quint16>(block.data() + at + 4);
+    const qsizetype lengthField = at + nameField + even(1 + quint8(block[at + nameField]));
+    resource.begin = lengthField + 4;
+    if (resource.begin > block.size())
+        return {};
+    const qsizetype told = qFromBigEndian<quint32>(block.data() + lengthField);
+    resource.length = std::min(told, block.size() - resource.begin);
+    return resource;
+}
+
+} // namespace
+
+std::vector<PhotoshopResource> readPhotoshopResources(QByteArrayView block)
+{
+    std::vector<PhotoshopResource> result;
+    qsizetype at = 0;
+    while (const std::optional<PhotoshopResource> resource = resourceAt(block, at)) {
+        result.push_back(*resource);
+        at = resource->begin + even(resource->length);
+    }
+    return result;
+}
+
+} // namespace platform

@@ -1,0 +1,176 @@
+#include "platform/TiffMetadata.h"
+
+#include "platform/Exiv2Library.h"
+#include "platform/PhotoshopResources.h"
+#include "platform/TiffDirectoryWriter.h"
+#include "platform/TiffStructure.h"
+
+#include <algorithm>
+#include <limits>
+#include <QIODevice>
+
+namespace platform {
+
+namespace {
+
+enum Tag : quint16 {
+    StripOffsets = 0x0111,
+    Orientation = 0x0112,
+    XResolution = 0x011A,
+    YResolution = 0x011B,
+    ResolutionUnit = 0x0128,
+    TileOffsets = 0x0144,
+    XmpPacket = 0x02BC,
+    IptcRecord = 0x83BB,
+    ResourcesOfPhotoshop = 0x8649,
+    ColorProfile = 0x8773
+};
+
+/// Of the tags of TIFF itself, those that tell of the photo and not of how its pixels are stored: names, make
+/// and model, orientation, density, software, date, artist and host.
+constexpr quint16 CarriedBaselineTags[] = {0x010D,         0x010E,      0x010F, 0x0110, Orientation,
+                                           XResolution,    YResolution, 0x011D, 0x0131, 0x0132,
+                                           ResolutionUnit, 0x013B,      0x013C};
+
+bool isCarried(quint16 tag)
+{
+    constexpr quint16 firstOtherTag = 0x1000;
+    if (tag >= firstOtherTag)
+        return tag != IptcRecord && tag != ResourcesOfPhotoshop && tag != ColorProfile;
+    return std::find(std::begin(CarriedBaselineTags), std::end(CarriedBaselineTags), tag) !=
+           std::end(CarriedBaselineTags);
+}
+
+qsizetype even(qsizetype length)
+{
+    return length + length % 2;
+}
+
+QByteArray padded(QByteArray bytes)
+{
+    return bytes.append(even(bytes.size()) - bytes.size(), '\0');
+}
+
+QByteArray turned(QByteArray value, qsizetype unit)
+{
+    for (qsizetype at = 0; at + unit <= value.size(); at += unit)
+        std::reverse(value.begin() + at, value.begin() + at + unit);
+    return value;
+}
+
+/// The entries of the encoded file, whose bytes come to stand at `origin`.
+void addPixelEntries(TiffDirectoryWriter &writer, QByteArrayView bytes, const TiffStructure &tiff,
+                     const TiffStructure::Directory &directory, quint32 origin)
+{
+    for (const TiffStructure::Entry &entry : directory.entries) {
+        QByteArray value = bytes.sliced(entry.position, entry.length).toByteArray();
+        if (entry.tag == StripOffsets || entry.tag == TileOffsets) {
+            value.clear();
+            for (const quint32 position : tiff.numbers(entry))
+                value += writer.number(origin + position);
+            writer.set(entry.tag, TiffStructure::Long, entry.count, value);
+            continue;
+        }
+        if (tiff.isBigEndian() != writer.isBigEndian())
+            value = turned(value, TiffStructure::unitLength(entry.type));
+        writer.set(entry.tag, entry.type, entry.count, value);
+    }
+}
+
+/// The entries of the EXIF block's first directory, which leads on to the others.
+void addExifEntries(TiffDirectoryWriter &writer, QByteArrayView bytes, const TiffStructure &exif)
+{
+    const auto directory = exif.directoryAt(exif.firstDirectory());
+    if (!directory)
+        return;
+    for (const TiffStructure::Entry &entry : directory->entries) {
+        if (!isCarried(entry.tag))
+            continue;
+        if (entry.length > 4)
+            writer.setReference(entry.tag, entry.type, entry.count, quint32(entry.position));
+        else
+            writer.set(entry.tag, entry.type, entry.count,
+                       bytes.sliced(entry.position, entry.length).toByteArray());
+    }
+}
+
+/// One packet of all: where JPEG needs extensions, TIFF has room, and nothing reads extensions there.
+QByteArray joinedXmp(const std::vector<QByteArray> &packets)
+try {
+    if (packets.size() < 2)
+        return packets.empty() ? QByteArray() : packets.front();
+    initializeExiv2();
+    Exiv2::XmpData whole;
+    for (const QByteArray &packet : packets) {
+        Exiv2::XmpData part;
+        Exiv2::XmpParser::decode(part, packet.toStdString());
+        for (const Exiv2::Xmpdatum &datum : part) {
+            if (datum.key() != "Xmp.xmpNote.HasExtendedXMP")
+                whole.add(datum);
+        }
+    }
+    std::string result;
+    Exiv2::XmpParser::encode(result, whole);
+    return QByteArray::fromStdString(result);
+} catch (const std::exception &) {
+    return packets.front();
+}
+
+QByteArray iptcRecord(const QByteArray &resources)
+{
+    for (const PhotoshopResource &resource : readPhotoshopResources(resources)) {
+        if (resource.id == PhotoshopResource::Iptc)
+            return resources.sliced(resource.begin, resource.length);
+    }
+    return {};
+}
+
+void addBytes(TiffDirectoryWriter &writer, quint16 tag, const QByteArray &value)
+{
+    if (!value.isEmpty())
+        writer.set(tag, TiffStructure::Byte, quint32(value.size()), value);
+}
+
+/// Readers expect the record as long numbers, though its bytes keep their order.
+void addIptc(TiffDirectoryWriter &writer, QByteArray record)
+{
+    constexpr qsizetype unit = 4;
+    record.append((unit - record.size() % unit) % unit, '\0');
+    if (!record.isEmpty())
+        writer.set(IptcRecord, TiffStructure::Long, quint32(record.size() / unit), record);
+}
+
+} // namespace
+
+bool writeTiffWithMetadata(const QByteArray &tiff, const CarriedMetadata &metadata, QIODevice &target)
+{
+    constexpr qsizetype firstDirectoryField = 4;
+    const std::optional<TiffStructure> pixels = TiffStructure::read(tiff);
+    const auto pixelDirectory = pixels ? pixels->directoryAt(pixels->firstDirectory()) : std::nullopt;
+    if (!pixelDirectory)
+        return false;
+    QByteArray head = padded(metadata.exif());
+    if (!TiffStructure::read(head))
+        head = QByteArray("II*\0\0\0\0\0", 8);
+    const TiffStructure exif = *TiffStructure::read(head);
+    TiffDirectoryWriter writer(exif.isBigEndian());
+    addPixelEntries(writer, tiff, *pixels, *pixelDirectory, quint32(head.size()));
+    addExifEntries(writer, head, exif);
+    const QByteArray resources = metadata.photoshopResources();
+    addBytes(writer, XmpPacket, joinedXmp(metadata.xmpPackets()));
+    addBytes(writer, ResourcesOfPhotoshop, resources);
+    addIptc(writer, iptcRecord(resources));
+
+    const qsizetype position = head.size() + even(tiff.size());
+    const QByteArray directory = writer.bytes(quint32(position));
+    if (position + directory.size() > qsizetype(std::numeric_limits<quint32>::max()))
+        return false;
+    head.replace(firstDirectoryField, 4, writer.number(quint32(position)));
+    target.write(head);
+    target.write(tiff);
+    target.write(QByteArray(tiff.size() % 2, '\0'));
+    target.write(directory);
+    return true;
+}
+
+} // namespace platform

@@ -1,0 +1,35 @@
+#include "platform/Vips.h"
+
+#include <mutex>
+#include <QStringList>
+
+namespace platform {
+
+namespace {
+
+void discardMessage(const gchar *, GLogLevelFlags, const gchar *, gpointer) {}
+
+} // namespace
+
+void initializeVips()
+{
+    static std::once_flag once;
+    std::call_once(once, [] {
+        VIPS_INIT("tessaro");
+        vips_concurrency_set(1);
+        vips_cache_set_max(0);
+        // Its warnings tell of oddities in camera files that no reader of ours can act on.
+        g_log_set_handler("VIPS", GLogLevelFlags(G_LOG_LEVEL_WARNING | G_LOG_LEVEL_INFO | G_LOG_LEVEL_DEBUG),
+                          discardMessage, nullptr);
+    });
+}
+
+QString takeVipsError()
+{
+    const QString text = QString::fromUtf8(vips_error_buffer());
+    vips_error_clear();
+    const QStringList lines = text.split(u'\n', Qt::SkipEmptyParts);
+    return lines.isEmpty() ? QString() : lines.constFirst().trimmed();
+}
+
+} // namespace platform

@@ -1,0 +1,224 @@
+#include "platform/ColorProfile.h"
+#include "platform/ImageFile.h"
+#include "platform/LazyImage.h"
+#include "platform/ThumbnailCollector.h"
+
+#include <gtest/gtest.h>
+#include <QColor>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace {
+
+using platform::LazyImage;
+
+class LazyImageTest : public testing::Test {
+protected:
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+    QString write(const QString &name, const QByteArray &bytes) const
+    {
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        return file.fileName();
+    }
+    /// Writes with libvips itself, in the kind of pixels that the picture has.
+    QString write(const QString &name, VipsImage *image) const
+    {
+        EXPECT_EQ(vips_image_write_to_file(image, QFile::encodeName(path(name)).constData(), nullptr), 0);
+        return path(name);
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+QImage plain(const QSize &size, const QColor &color)
+{
+    QImage image(size, color.alpha() == 255 ? QImage::Format_RGB32 : QImage::Format_ARGB32);
+    image.fill(color);
+    return image;
+}
+
+/// A picture of one value in any kind of pixels.
+platform::VipsImagePtr flat(std::vector<double> values, VipsBandFormat format, VipsInterpretation kind)
+{
+    platform::initializeVips();
+    VipsImage *black = nullptr;
+    VipsImage *filled = nullptr;
+    VipsImage *cast = nullptr;
+    VipsImage *copy = nullptr;
+    std::vector<double> ones(values.size(), 1.0);
+    EXPECT_EQ(vips_black(&black, 16, 16, "bands", int(values.size()), nullptr), 0);
+    EXPECT_EQ(vips_linear(black, &filled, ones.data(), values.data(), int(values.size()), nullptr), 0);
+    EXPECT_EQ(vips_cast(filled, &cast, format, nullptr), 0);
+    EXPECT_EQ(vips_copy(cast, &copy, "interpretation", kind, nullptr), 0);
+    for (VipsImage *image : {black, filled, cast})
+        g_object_unref(image);
+    return platform::VipsImagePtr(copy);
+}
+
+void expectColor(const QColor &color, const QColor &expected, int tolerance)
+{
+    EXPECT_NEAR(color.red(), expected.red(), tolerance);
+    EXPECT_NEAR(color.green(), expected.green(), tolerance);
+    EXPECT_NEAR(color.blue(), expected.blue(), tolerance);
+    EXPECT_NEAR(color.alpha(), expected.alpha(), tolerance);
+}
+
+} // namespace
+
+TEST_F(LazyImageTest, ResizesToTheVeryPixel)
+{
+    const QSize sources[] = {{400, 300}, {1001, 667}, {17, 9}, {640, 1}};
+    const QSize targets[] = {{133, 100}, {1, 1}, {999, 3}, {33, 799}, {17, 9}, {639, 2}, {1002, 668}};
+    for (const QColor &color : {QColor(10, 200, 30), QColor(10, 200, 30, 128)})
+        for (const QSize &source : sources) {
+            const LazyImage image = LazyImage::fromImage(plain(source, color));
+            for (const QSize &target : targets) {
+                const LazyImage resized = image.resized(target);
+                EXPECT_EQ(resized.size(), target)
+                    << source.width() << " to " << target.width() << 'x' << target.height();
+                const QImage pixels = resized.toImage();
+                expectColor(pixels.pixelColor(target.width() - 1, target.height() / 2), color, 1);
+            }
+        }
+}
+
+TEST_F(LazyImageTest, DecodersReduceButNeverTooFar)
+{
+    const QString jpeg =
+        write(QStringLiteral("a.jpg"), LazyImage::fromImage(plain({1001, 667}, Qt::red)).encodeJpeg({}));
+    const QString png =
+        write(QStringLiteral("a.png"), LazyImage::fromImage(plain({1001, 667}, Qt::red)).encodePng());
+    const struct {
+        QString path;
+        QSize wanted;
+        QSize opened;
+    } cases[] = {
+        {jpeg, {}, {1001, 667}},        {jpeg, {501, 333}, {1001, 667}}, {jpeg, {500, 334}, {1001, 667}},
+        {jpeg, {500, 333}, {500, 333}}, {jpeg, {250, 166}, {250, 166}},  {jpeg, {125, 83}, {125, 83}},
+        {jpeg, {1, 1}, {125, 83}},      {png, {125, 83}, {1001, 667}},
+    };
+    for (const auto &[path, wanted, opened] : cases) {
+        const LazyImage image = LazyImage::open(path, wanted);
+        EXPECT_EQ(image.size(), opened) << wanted.width();
+        expectColor(image.inSRGB().resized({10, 7}).toImage().pixelColor(5, 3), Qt::red, 3);
+    }
+}
+
+TEST_F(LazyImageTest, EveryKindOfPixelsBecomesEightBitRGB)
+{
+    constexpr VipsBandFormat narrow = VIPS_FORMAT_UCHAR;
+    constexpr VipsBandFormat wide = VIPS_FORMAT_USHORT;
+    const struct {
+        const char16_t *name;
+        platform::VipsImagePtr image;
+        QColor color;
+        int tolerance;
+    } cases[] = {
+        {u"grey.png", flat({100}, narrow, VIPS_INTERPRETATION_B_W), {100, 100, 100}, 0},
+        {u"grey.jpg", flat({100}, narrow, VIPS_INTERPRETATION_B_W), {100, 100, 100}, 1},
+        {u"wide.png", flat({25700}, wide, VIPS_INTERPRETATION_GREY16), {100, 100, 100}, 1},
+        {u"wide.tif", flat({2570, 51400, 23130}, wide, VIPS_INTERPRETATION_RGB16), {10, 200, 90}, 1},
+        {u"clear.png", flat({10, 200, 90, 51}, narrow, VIPS_INTERPRETATION_sRGB), {10, 200, 90, 51}, 2},
+        {u"greyclear.png", flat({80, 128}, narrow, VIPS_INTERPRETATION_B_W), {80, 80, 80, 128}, 2},
+        {u"paper.jpg", flat({0, 0, 0, 0}, narrow, VIPS_INTERPRETATION_CMYK), {255, 255, 255}, 3},
+        {u"ink.jpg", flat({0, 0, 0, 255}, narrow, VIPS_INTERPRETATION_CMYK), {35, 31, 32}, 36},
+        {u"cyan.tif", flat({255, 0, 0, 0}, narrow, VIPS_INTERPRETATION_CMYK), {0, 160, 230}, 30},
+    };
+    for (const auto &[name, image, color, tolerance] : cases) {
+        SCOPED_TRACE(QString::fromUtf16(name).toStdString());
+        const LazyImage opened = LazyImage::open(write(QString::fromUtf16(name), image.get()), {}).inSRGB();
+        ASSERT_FALSE(opened.isEmpty());
+        EXPECT_EQ(opened.vips()->BandFmt, VIPS_FORMAT_UCHAR);
+        EXPECT_EQ(opened.vips()->Bands, color.alpha() == 255 ? 3 : 4);
+        expectColor(opened.toImage().pixelColor(8, 8), color, tolerance);
+    }
+}
+
+TEST_F(LazyImageTest, EmbeddedProfilesAreHonoured)
+{
+    // By the matrices of Display P3 and sRGB, whose curves are the same.
+    const platform::VipsImagePtr image = flat({100, 150, 50}, VIPS_FORMAT_UCHAR, VIPS_INTERPRETATION_sRGB);
+    VipsBlob *blob = nullptr;
+    ASSERT_EQ(vips_profile_load("p3", &blob, nullptr), 0);
+    size_t length = 0;
+    const void *profile = vips_blob_get(blob, &length);
+    vips_image_set_blob_copy(image.get(), VIPS_META_ICC_NAME, profile, length);
+    vips_area_unref(VIPS_AREA(blob));
+    const QColor moved(83, 152, 23);
+    for (const char16_t *name : {u"p3.jpg", u"p3.png", u"p3.tif"}) {
+        const LazyImage opened = LazyImage::open(write(QString::fromUtf16(name), image.get()), {});
+        expectColor(opened.inSRGB().toImage().pixelColor(8, 8), moved, 2);
+    }
+    const QByteArray srgb = platform::sRGBProfile();
+    vips_image_set_blob_copy(image.get(), VIPS_META_ICC_NAME, srgb.constData(), size_t(srgb.size()));
+    EXPECT_EQ(platform::toSRGBByProfile(image.get()), nullptr) << "sRGB needs no conversion";
+    vips_image_set_blob_copy(image.get(), VIPS_META_ICC_NAME, "no profile", 10);
+    EXPECT_EQ(platform::toSRGBByProfile(image.get()), nullptr);
+    expectColor(LazyImage::open(write(QStringLiteral("bad.png"), image.get()), {})
+                    .inSRGB()
+                    .toImage()
+                    .pixelColor(8, 8),
+                QColor(100, 150, 50), 0);
+}
+
+TEST_F(LazyImageTest, TransparencyStaysOrBecomesBlack)
+{
+    const LazyImage clear = LazyImage::fromImage(plain({20, 20}, QColor(200, 100, 0, 128)));
+    const QImage png = QImage::fromData(clear.encodePng());
+    expectColor(png.pixelColor(5, 5), QColor(200, 100, 0, 128), 1);
+    const QImage jpeg = QImage::fromData(clear.encodeJpeg({100, {1, 1}}));
+    expectColor(jpeg.pixelColor(5, 5), QColor(100, 50, 0), 2);
+    EXPECT_FALSE(clear.flattened().hasAlpha());
+    QImage edge = plain({40, 40}, QColor(0, 255, 0, 0));
+    for (int y = 0; y < 40; ++y)
+        for (int x = 0; x < 20; ++x)
+            edge.setPixelColor(x, y, QColor(255, 0, 0));
+    const QColor middle = LazyImage::fromImage(edge).resized({5, 5}).toImage().pixelColor(2, 2);
+    EXPECT_LT(middle.green(), 20) << "the colour of what is invisible stays so";
+}
+
+TEST_F(LazyImageTest, FilesThatBreakOffFail)
+{
+    QImage noise(200, 200, QImage::Format_RGB32);
+    for (int y = 0; y < 200; ++y)
+        for (int x = 0; x < 200; ++x)
+            noise.setPixel(x, y, qRgb(x * y % 256, x * 7 % 256, y * 13 % 256));
+    const LazyImage image = LazyImage::fromImage(noise);
+    const std::pair<const char16_t *, QByteArray> files[] = {
+        {u"a.jpg", image.encodeJpeg({})}, {u"a.png", image.encodePng()}, {u"a.tif", image.encodeTiff()}};
+    for (const auto &[name, bytes] : files) {
+        const QString whole = write(QString::fromUtf16(name), bytes);
+        EXPECT_EQ(platform::decodeImage(whole).size(), QSize(200, 200));
+        const LazyImage opened = LazyImage::open(
+            write(QStringLiteral("cut_") + QString::fromUtf16(name), bytes.first(bytes.size() / 2)), {});
+        EXPECT_TRUE(opened.inSRGB().encodePng().isEmpty()) << QString::fromUtf16(name).toStdString();
+        EXPECT_FALSE(platform::takeVipsError().isEmpty());
+    }
+    EXPECT_TRUE(LazyImage::open(write(QStringLiteral("words.jpg"), QByteArray("words")), {}).isEmpty());
+    EXPECT_TRUE(LazyImage::open(path(QStringLiteral("missing.jpg")), {}).isEmpty());
+    EXPECT_TRUE(LazyImage::open(path(QString()), {}).isEmpty());
+}
+
+TEST_F(LazyImageTest, ThumbnailsHoldMeansOfWhatStreamedBy)
+{
+    QImage picture(64, 32, QImage::Format_RGBA8888);
+    picture.fill(QColor(200, 100, 40));
+    for (int y = 0; y < 32; ++y)
+        for (int x = 0; x < 32; ++x)
+            picture.setPixelColor(x, y, x % 2 ? QColor(0, 0, 0) : QColor(200, 0, 0, 255));
+    for (int y = 16; y < 32; ++y)
+        for (int x = 32; x < 64; ++x)
+            picture.setPixelColor(x, y, QColor(200, 100, 40, 51));
+    platform::ThumbnailCollector collector({64, 32}, {4, 2});
+    for (const int y : {20, 0, 7})
+        collector.add(picture.copy(0, y, 64, y == 0 ? 7 : y == 7 ? 13 : 12), {0, y});
+    const QImage thumbnail = collector.thumbnail();
+    ASSERT_EQ(thumbnail.size(), QSize(4, 2));
+    expectColor(thumbnail.pixelColor(3, 0), QColor(200, 100, 40), 0);
+    expectColor(thumbnail.pixelColor(3, 1), QColor(40, 20, 8), 0);
+    EXPECT_EQ(thumbnail.pixelColor(0, 1).green(), 0);
+    EXPECT_TRUE(platform::ThumbnailCollector({64, 32}, {}).thumbnail().isNull());
+    EXPECT_TRUE(platform::ThumbnailCollector({}, {4, 2}).thumbnail().isNull());
+}

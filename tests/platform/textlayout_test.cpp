@@ -1,0 +1,130 @@
+#include "platform/FontChoice.h"
+#include "platform/TextLayout.h"
+#include "support/Pictures.h"
+
+#include <gtest/gtest.h>
+#include <QFontMetricsF>
+
+namespace {
+
+using platform::AttributedString;
+using platform::TextAlignment;
+using platform::TextAttributes;
+using platform::TextLayout;
+
+TextAttributes look(double size = 36)
+{
+    TextAttributes attributes;
+    attributes.font = {"Helvetica", {}, size};
+    attributes.foregroundColor = platform::Color::white();
+    return attributes;
+}
+
+QSizeF sizeOf(const QString &text, double size = 36)
+{
+    return TextLayout(AttributedString(text, look(size))).size();
+}
+
+QImage drawn(const AttributedString &text, const TextAttributes &over = {})
+{
+    const TextLayout layout(text);
+    QImage image(layout.size().toSize() + QSize(2, 2), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    layout.draw(painter, over);
+    return image;
+}
+
+QRect inkIn(const QImage &image)
+{
+    return boxWhere(image, [](const QColor &color) { return color.alpha() > 64; });
+}
+
+} // namespace
+
+TEST(TextLayoutTest, Sizes)
+{
+    const double line = sizeOf("x").height();
+    const double advance = QFontMetricsF(platform::fontFor(*look().font)).horizontalAdvance("wide");
+    EXPECT_NEAR(sizeOf("wide").width(), advance + 10, 0.5);
+    EXPECT_GT(line, 36);
+    EXPECT_LT(line, 54);
+    EXPECT_NEAR(sizeOf("x", 72).height(), 2 * line, 2);
+    EXPECT_EQ(sizeOf(QString()), QSizeF(10, line));
+    const std::pair<const char *, int> lines[] = {
+        {"a\nb", 2}, {"a\n", 2}, {"\n\n", 3}, {"a very long line without any break", 1}};
+    for (const auto &[text, count] : lines)
+        EXPECT_NEAR(sizeOf(text).height(), count * line, 0.01) << text;
+    EXPECT_EQ(sizeOf("wide\nx").width(), sizeOf("wide").width());
+    EXPECT_GT(sizeOf("a   ").width(), sizeOf("a").width() + 15);
+}
+
+TEST(TextLayoutTest, EveryBreakOfALineCounts)
+{
+    const QSizeF two = sizeOf("ab\ncd");
+    for (const char16_t *text : {u"ab\r\ncd", u"ab\rcd", u"ab\u2028cd", u"ab\u2029cd"})
+        EXPECT_EQ(sizeOf(QString::fromUtf16(text)), two)
+            << QString::fromUtf16(text).toHtmlEscaped().toStdString();
+}
+
+TEST(TextLayoutTest, LinesStandAlignedInTheLongest)
+{
+    const QString text = "mmmmmmmm\ni";
+    const int half = int(sizeOf(text).height() / 2);
+    const int width = int(sizeOf(text).width());
+    for (const auto &[alignment, share] :
+         {std::pair{TextAlignment::Left, 0.0}, {TextAlignment::Center, 0.5}, {TextAlignment::Right, 1.0}}) {
+        TextAttributes attributes = look();
+        attributes.alignment = alignment;
+        const QRect ink = inkIn(drawn(AttributedString(text, attributes)).copy(0, half, width, half));
+        const double advance = QFontMetricsF(platform::fontFor(*look().font)).horizontalAdvance(u'i');
+        EXPECT_NEAR(ink.center().x(), 5 + advance / 2 + share * (width - 10 - advance), 1.5);
+    }
+}
+
+TEST(TextLayoutTest, RightToLeftLinesBeginInTheirBoxToo)
+{
+    for (const char16_t *text : {u"שלום עולם", u"abc שלום"}) {
+        const QImage image = drawn(AttributedString(QString::fromUtf16(text), look()));
+        const QRect ink = inkIn(image);
+        EXPECT_NEAR(ink.left(), 5, 4);
+        EXPECT_NEAR(ink.right(), image.width() - 7, 5);
+    }
+}
+
+TEST(TextLayoutTest, LinesUnderAndThroughTakeTheirOwnColours)
+{
+    TextAttributes attributes = look();
+    const auto redAt = [](const QImage &image) { return extentOf(image, Qt::red, 55); };
+    const QString words = "line up";
+    EXPECT_TRUE(redAt(drawn(AttributedString(words, attributes))).isEmpty());
+    attributes.underlineStyle = 1;
+    attributes.underlineColor = platform::Color{1, 0, 0, 1};
+    const QRect under = redAt(drawn(AttributedString(words, attributes)));
+    EXPECT_NEAR(under.width(), sizeOf(words).width() - 10, 2);
+    EXPECT_LT(under.height(), 5);
+    attributes.underlineStyle = 0;
+    attributes.strikethroughStyle = 1;
+    attributes.strikethroughColor = platform::Color{1, 0, 0, 1};
+    const QRect through = redAt(drawn(AttributedString(words, attributes)));
+    EXPECT_NEAR(through.width(), sizeOf(words).width() - 10, 2);
+    EXPECT_LT(through.bottom(), under.top() - 5);
+}
+
+TEST(TextLayoutTest, OutlinesAreInPercentOfTheFont)
+{
+    const QString words = "I";
+    TextAttributes over;
+    over.strokeColor = platform::Color{1, 0, 0, 1};
+    const QImage filled = drawn(AttributedString(words, look()), over);
+    over.strokeWidth = 4;
+    const QImage thin = drawn(AttributedString(words, look(72)), over);
+    over.strokeWidth = -4;
+    const QImage both = drawn(AttributedString(words, look(72)), over);
+    const QRect ink = inkIn(thin);
+    EXPECT_EQ(filled.pixelColor(inkIn(filled).center()), QColor(Qt::white));
+    EXPECT_EQ(qAlpha(thin.pixel(ink.center())), 0) << "an outline without a filling";
+    EXPECT_EQ(both.pixelColor(ink.center()), QColor(Qt::white));
+    const QImage plain = drawn(AttributedString(words, look(72)));
+    EXPECT_NEAR(ink.width() - inkIn(plain).width(), 72 * 0.04, 1.1);
+}
