@@ -1,0 +1,197 @@
+#include "session/TSDataManager.h"
+
+#include "platform/ImageFile.h"
+#include "session/TSCurrentInstance.h"
+#include "session/TSFileUtility.h"
+#include "session/TSImageUtility.h"
+#include "session/TSPhotoManager.h"
+
+#include <algorithm>
+#include <QFileInfo>
+
+using enum TSRepresentationType;
+
+namespace {
+
+using Lock = std::lock_guard<std::recursive_mutex>;
+
+/// The longest side of a decoded preview picture, in pixels.
+constexpr double previewSide = 2000;
+
+QSizeF storedSize(const TSImageBrowserItem &item)
+{
+    const auto header = platform::readImageHeader(item.path);
+    return header ? QSizeF(header->size) : QSizeF(0, 0);
+}
+
+/// A frame's size is that of its picture held upright, unlike that of a plain file.
+QSizeF frameSizeOfFile(const TSImageBrowserItem &item)
+{
+    if (TSIsVectorType(TSImageType(item.resourePath)))
+        return item.frameSize;
+    const auto header = platform::readImageHeader(item.sourcePath(), nullptr, int(item.frameCount));
+    if (!header)
+        return {0, 0};
+    return header->turnsSideways ? QSizeF(header->size.transposed()) : QSizeF(header->size);
+}
+
+} // namespace
+
+TSDataManager::TSDataManager()
+{
+    TSCurrentInstance<TSDataManager>::enter(this);
+}
+
+TSDataManager::~TSDataManager()
+{
+    TSCurrentInstance<TSDataManager>::leave(this);
+}
+
+TSDataManager *TSDataManager::dataManager()
+{
+    return TSCurrentInstance<TSDataManager>::get();
+}
+
+qint64 TSDataManager::photoCount() const
+{
+    const Lock lock(m_itemsLock);
+    return qint64(m_items.size());
+}
+
+std::shared_ptr<TSImageBrowserItem> TSDataManager::itemAtIndex(qint64 index) const
+{
+    const Lock lock(m_itemsLock);
+    return index >= 0 && index < qint64(m_items.size()) ? m_items[size_t(index)] : nullptr;
+}
+
+void TSDataManager::addItem(std::shared_ptr<TSImageBrowserItem> item)
+{
+    const Lock lock(m_itemsLock);
+    if (item->repType == IKImageBrowserCGImageRepresentationType && !item->cgimage.isNull()) {
+        const Lock cacheLock(m_cacheLock);
+        m_cache.insert(item->imageKey(), item->cgimage);
+    }
+    item->title = QFileInfo(item->path).fileName();
+    m_items.push_back(std::move(item));
+}
+
+void TSDataManager::insertItem(std::shared_ptr<TSImageBrowserItem> item, qint64 index)
+{
+    const Lock lock(m_itemsLock);
+    const qint64 position = std::clamp<qint64>(index, 0, qint64(m_items.size()));
+    m_items.insert(m_items.begin() + position, std::move(item));
+}
+
+bool TSDataManager::isHasItem(const QString &path) const
+{
+    const Lock lock(m_itemsLock);
+    return std::any_of(m_items.begin(), m_items.end(),
+                       [&](const auto &item) { return item->resourePath == path; });
+}
+
+void TSDataManager::removeItem(const std::shared_ptr<TSImageBrowserItem> &item)
+{
+    const Lock lock(m_itemsLock);
+    const auto found = std::find(m_items.begin(), m_items.end(), item);
+    if (found == m_items.end())
+        return;
+    const qint64 index = found - m_items.begin();
+    m_items.erase(found);
+    TSPhotoManager *photos = TSPhotoManager::photoManager();
+    const std::shared_ptr<TSPhoto> photo = photos->photoAtIndex(index);
+    removeCachedPhoto(photo.get());
+    photos->removePhoto(photo);
+    photos->renumber();
+}
+
+void TSDataManager::removePhotoAtIndex(qint64 index)
+{
+    const Lock lock(m_itemsLock);
+    if (const auto item = itemAtIndex(index)) {
+        releaseCacheOfItem(*item);
+        removeItem(item);
+    }
+}
+
+void TSDataManager::removePhotosWithIndexSet(const std::set<qint64> &indexes)
+{
+    for (auto index = indexes.rbegin(); index != indexes.rend(); ++index)
+        removePhotoAtIndex(*index);
+}
+
+void TSDataManager::removeAllPhotos()
+{
+    for (qint64 index = photoCount() - 1; index >= 0; --index)
+        removePhotoAtIndex(index);
+}
+
+void TSDataManager::removePhotoCacheAtIndexOnly(qint64 index)
+{
+    const Lock lock(m_itemsLock);
+    if (const auto item = itemAtIndex(index))
+        releaseCacheOfItem(*item);
+}
+
+void TSDataManager::releaseCacheOfItem(TSImageBrowserItem &item)
+{
+    const Lock lock(m_cacheLock);
+    if (m_cache.remove(item.imageKey()) > 0)
+        item.cgimage = QImage();
+}
+
+QImage TSDataManager::cacheAtIndex(qint64 index)
+{
+    const auto item = itemAtIndex(index);
+    if (!item)
+        return {};
+    {
+        const Lock lock(m_cacheLock);
+        const auto hit = m_cache.constFind(item->imageKey());
+        if (hit != m_cache.constEnd())
+            return *hit;
+    }
+    QImage image;
+    if (item->repType == IKImageBrowserPathRepresentationType)
+        image = TSCreateThumbnail(item->path, previewSide);
+    else if (item->repType == IKImageBrowserCGImageRepresentationType)
+        image = item->cgimage;
+    if (!image.isNull()) {
+        const Lock lock(m_cacheLock);
+        m_cache.insert(item->imageKey(), image);
+    }
+    return image;
+}
+
+void TSDataManager::GetPhotoSize(qint64 index)
+{
+    const auto photo = TSPhotoManager::photoManager()->photoAtIndex(index);
+    const auto item = itemAtIndex(index);
+    if (!photo || !item || isRemoveAllPhotos)
+        return;
+    if (photo->photoSize.width() == 0) {
+        const bool isPath = item->repType == IKImageBrowserPathRepresentationType;
+        const QSizeF size = isPath ? storedSize(*item) : frameSizeOfFile(*item);
+        if (size.width() == 0 || isRemoveAllPhotos)
+            return;
+        photo->photoSize = size;
+    }
+    photo->ratio = photo->photoSize.height() / photo->photoSize.width();
+}
+
+bool TSDataManager::isCachedPhoto(const TSPhoto *photo) const
+{
+    const Lock lock(m_cacheLock);
+    return m_cachedPhotos.count(photo) > 0;
+}
+
+void TSDataManager::addCachedPhoto(const TSPhoto *photo)
+{
+    const Lock lock(m_cacheLock);
+    m_cachedPhotos.insert(photo);
+}
+
+void TSDataManager::removeCachedPhoto(const TSPhoto *photo)
+{
+    const Lock lock(m_cacheLock);
+    m_cachedPhotos.erase(photo);
+}

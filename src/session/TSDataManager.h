@@ -1,0 +1,112 @@
+#pragma once
+
+#include "session/TSImageBrowserItem.h"
+#include "session/TSOutputCodes.h"
+#include "session/TSPositionCode.h"
+
+#include <atomic>
+#include <memory>
+#include <mutex>
+#include <QHash>
+#include <QRectF>
+#include <QSizeF>
+#include <QStringList>
+#include <set>
+#include <vector>
+
+class TSPhoto;
+
+/// The one record of the running session: what output is asked for, how the canvas lies over the selected
+/// photo, where the position controls stand, and the items of the strip with their decoded pictures.
+///
+/// The plain fields are not locked. `canvasFrame` and `photoRatioOfSize` are borrowed by the export thread
+/// for the length of a photo, while a modal sheet keeps the main thread from them; the flags may be polled
+/// from any thread. The list and the cache are locked inside, the list before the cache.
+class TSDataManager {
+public:
+    TSDataManager();
+    ~TSDataManager();
+    TSDataManager(const TSDataManager &) = delete;
+    TSDataManager &operator=(const TSDataManager &) = delete;
+
+    /// The current instance: the one made last that still lives, or else one made at the first use.
+    static TSDataManager *dataManager();
+
+    // The output asked for. `quality` is 0 to 1; the sizes are pixels, `percentage` 50 for half.
+    unsigned type = 0;
+    QString exportFormat;
+    double quality = 0;
+    unsigned resizeWay = TSResizeWay::KeepOriginalSize;
+    double outputWidth = 0;
+    double outputHeight = 0;
+    double percentage = 0;
+    /// One base name a photo, in photo order, without folder and extension.
+    QStringList exportNames;
+    qint64 nameToken = 0;
+    qint64 numberToken = 0;
+    qint64 createdDateToken = 0;
+    qint64 modifiedDateToken = 0;
+    std::atomic<bool> isExitExport = false;
+
+    // The geometry of the preview. Rectangles are points of the overlay space, y downward; `canvasFrame` is
+    // the area that stands for the whole photo, and every overlay places itself against it.
+    // `photoRatioOfSize` is points a pixel.
+    unsigned sizeMode = TSSizeMode::Fit;
+    QRectF canvasFrame;
+    QRectF previewFrame;
+    double photoRatioOfSize = 0;
+    QSizeF frameSize{0, 0};
+    bool isCenter = false;
+
+    // The position controls, in position codes.
+    unsigned watermarkAlignmenWay = TSPositionCode::None;
+    unsigned offsetAlignment = TSPositionCode::None;
+    unsigned oldAlignment = TSPositionCode::None;
+    /// Reads as the top left until a selection has been measured; nobody reads it with fewer than two
+    /// selected.
+    unsigned unionFrameAlignment = TSPositionCode::LeftTop;
+    unsigned pUnit = TSOffsetUnit::Percentage;
+
+    std::atomic<bool> isSelectedPhotoChanged = false;
+    std::atomic<bool> isRemoveAllPhotos = false;
+    bool isDragging = false;
+    bool isUpdate = false;
+
+    // The list of items. Out of range answers nothing, or changes nothing.
+    qint64 photoCount() const;
+    std::shared_ptr<TSImageBrowserItem> itemAtIndex(qint64 index) const;
+    /// Appends, gives the item its title, and puts a picture that it brings into the cache.
+    void addItem(std::shared_ptr<TSImageBrowserItem> item);
+    /// Only inserts: no title and no cache entry.
+    void insertItem(std::shared_ptr<TSImageBrowserItem> item, qint64 index);
+    /// Whether a photo of this file is in the list.
+    bool isHasItem(const QString &path) const;
+    /// Removes the item and its photo, and renumbers the photos. The cache is left alone.
+    void removeItem(const std::shared_ptr<TSImageBrowserItem> &item);
+    void removePhotoAtIndex(qint64 index);
+    /// From the highest index to the lowest.
+    void removePhotosWithIndexSet(const std::set<qint64> &indexes);
+    void removeAllPhotos();
+    /// Drops the decoded picture, and keeps the photo.
+    void removePhotoCacheAtIndexOnly(qint64 index);
+
+    /// The decoded picture of a photo, no more than 2000 pixels on its long side; decodes it when it is not
+    /// cached.
+    QImage cacheAtIndex(qint64 index);
+    /// Fills `photoSize` and `ratio` of a photo whose size is not yet known.
+    void GetPhotoSize(qint64 index);
+
+    /// The photos that the background filling has handled. The main thread and the worker take turns on it.
+    bool isCachedPhoto(const TSPhoto *photo) const;
+    void addCachedPhoto(const TSPhoto *photo);
+    void removeCachedPhoto(const TSPhoto *photo);
+
+private:
+    void releaseCacheOfItem(TSImageBrowserItem &item);
+
+    mutable std::recursive_mutex m_itemsLock;
+    mutable std::recursive_mutex m_cacheLock;
+    std::vector<std::shared_ptr<TSImageBrowserItem>> m_items;
+    QHash<QString, QImage> m_cache;
+    std::set<const TSPhoto *> m_cachedPhotos;
+};

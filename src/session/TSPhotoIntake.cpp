@@ -1,0 +1,212 @@
+#include "session/TSPhotoIntake.h"
+
+#include "platform/DrawingFile.h"
+#include "platform/ImageFile.h"
+#include "platform/ImageProperties.h"
+#include "session/TSDataManager.h"
+#include "session/TSFileUtility.h"
+#include "session/TSImageUtility.h"
+#include "session/TSPhotoManager.h"
+#include "session/TSQuartzUtility.h"
+#include "vector/TSSVGImage.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+#include <QPainter>
+
+using enum TSRepresentationType;
+
+namespace {
+
+constexpr int frameSide = 2000;
+
+/// File systems that keep no date of birth answer the date of the last change for both.
+QVariantMap fileAttributes(const QString &path)
+{
+    const QFileInfo info(path);
+    const QDateTime modified = info.lastModified();
+    const QDateTime born = info.birthTime();
+    return {{TSFileAttribute::CreationDate.toString(), born.isValid() ? born : modified},
+            {TSFileAttribute::ModificationDate.toString(), modified}};
+}
+
+QString reasonForRefusal(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        return QStringLiteral("There is no such file.");
+    if (info.isDir())
+        return QStringLiteral("This is a folder, not a photo.");
+    if (!info.isFile())
+        return QStringLiteral("This is not a file.");
+    if (!info.isReadable())
+        return QStringLiteral("The file may not be read: permission is missing.");
+    if (info.size() == 0)
+        return QStringLiteral("The file is empty.");
+    return QStringLiteral("The file is not a picture that can be read.");
+}
+
+QImage rasterizedSvg(const QString &path, const QSizeF &box)
+{
+    const auto drawing = TSSVGImage::imageWithContentsOfFile(path);
+    const QSizeF natural = drawing ? drawing->size() : QSizeF(0, 0);
+    const QSizeF size = TSFitSizeInBox(natural.width(), natural.height(), box.width(), box.height());
+    QImage surface = TSCreateBitmapContextCopy(size.width(), size.height());
+    if (surface.isNull())
+        return surface;
+    QPainter painter(&surface);
+    drawing->drawInRect(painter, QRectF(QPointF(0, 0), size));
+    return surface;
+}
+
+std::shared_ptr<TSImageBrowserItem> newItem(const QString &path)
+{
+    auto item = std::make_shared<TSImageBrowserItem>();
+    item->path = path;
+    item->resourePath = path;
+    item->fileAttributesDic = fileAttributes(path);
+    return item;
+}
+
+/// The key of a frame: a path below the file that is never opened.
+QString framePath(const QString &path, int frame, int frames)
+{
+    const QString name = QFileInfo(path).completeBaseName();
+    if (frames == 1)
+        return QStringLiteral("%1/%2").arg(path, name);
+    const QString number = QStringLiteral("%1").arg(frame + 1, 2, 10, QLatin1Char('0'));
+    return QStringLiteral("%1/%2_frame%3").arg(path, name, number);
+}
+
+std::shared_ptr<TSPhoto> newPhoto(const TSImageBrowserItem &item, qint64 index)
+{
+    auto photo = std::make_shared<TSPhoto>();
+    photo->index = index;
+    photo->path = item.path;
+    photo->resourcePath = item.path;
+    photo->propertiesDic = item.propertiesDic;
+    photo->fileAttributesDic = item.fileAttributesDic;
+    return photo;
+}
+
+} // namespace
+
+void TSPhotoIntake::addItemsWithURLs(const QStringList &paths, bool isInsert)
+{
+    m_repeatedFileNames.clear();
+    for (const QString &path : paths) {
+        if (processCanceled)
+            return;
+        addFile(path, isInsert);
+    }
+}
+
+void TSPhotoIntake::addFile(const QString &path, bool isInsert)
+{
+    if (!TSIsImagePath(path))
+        return refuse(path, reasonForRefusal(path));
+    if (!isAddItem(path))
+        return refuse(path, QStringLiteral("The photo is in the list already."));
+    const unsigned type = TSImageType(path);
+    if (TSIsVectorType(type))
+        addDrawing(path, type, isInsert);
+    else if (type == TSImageTypeCode::TIFF || type == TSImageTypeCode::GIF)
+        addFrames(path, isInsert);
+    else
+        addPlainFile(path, type, isInsert);
+}
+
+bool TSPhotoIntake::isAddItem(const QString &path)
+{
+    if (!TSDataManager::dataManager()->isHasItem(path))
+        return true;
+    const QString name = QFileInfo(path).fileName();
+    m_repeatedFileNames += m_repeatedFileNames.isEmpty() ? name : u',' + name;
+    return false;
+}
+
+void TSPhotoIntake::addFrames(const QString &path, bool isInsert)
+{
+    const auto header = platform::readImageHeader(path);
+    const int frames = header ? header->frames : 0;
+    if (frames == 0)
+        return refuse(path, QStringLiteral("The file is not a picture that can be read."));
+    // A cancelled intake finishes its file: half of the frames could not be completed later, since the file
+    // would count as a duplicate.
+    for (int frame = 0; frame < frames; ++frame) {
+        const Item item = newItem(path);
+        item->path = framePath(path, frame, frames);
+        item->repType = IKImageBrowserCGImageRepresentationType;
+        item->frameCount = quint64(frame);
+        item->cgimage = platform::decodeThumbnail(path, frameSide, frame);
+        performAddItem(item, isInsert);
+    }
+}
+
+/// A drawing is made a picture once, as large as the preview's box allows; its outputs are stretched from
+/// that.
+void TSPhotoIntake::addDrawing(const QString &path, unsigned type, bool isInsert)
+{
+    const QSizeF box(frameSide, frameSide);
+    const Item item = newItem(path);
+    QString reason = QStringLiteral("The drawing has no size, or cannot be read.");
+    item->repType = IKImageBrowserCGImageRepresentationType;
+    if (type == TSImageTypeCode::SVG)
+        item->cgimage = rasterizedSvg(path, box);
+    else if (type == TSImageTypeCode::EPS)
+        item->cgimage = platform::rasterizeEps(path, box, &reason);
+    else
+        item->cgimage = platform::rasterizePdf(path, box, &reason);
+    if (item->cgimage.isNull())
+        return refuse(path, reason);
+    item->frameSize = item->cgimage.size();
+    performAddItem(item, isInsert);
+}
+
+void TSPhotoIntake::addPlainFile(const QString &path, unsigned type, bool isInsert)
+{
+    const Item item = newItem(path);
+    item->repType = IKImageBrowserPathRepresentationType;
+    if (type == TSImageTypeCode::JPG)
+        item->propertiesDic = platform::imageProperties(path);
+    performAddItem(item, isInsert);
+}
+
+void TSPhotoIntake::performAddItem(const Item &item, bool isInsert)
+{
+    if (isInsert)
+        insertItem(item);
+    else
+        addItem(item);
+}
+
+void TSPhotoIntake::addItem(const Item &item)
+{
+    TSDataManager *data = TSDataManager::dataManager();
+    TSPhotoManager *photos = TSPhotoManager::photoManager();
+    data->addItem(item);
+    const qint64 position = data->photoCount() - 1;
+    if (m_rows)
+        m_rows->photoWillJoin(TSPhotoListObserver::atEnd, photos->selectedPhoto());
+    photos->addPhoto(newPhoto(*item, position));
+    if (m_delegate)
+        m_delegate->photoWasAdded(item->resourePath, position);
+}
+
+void TSPhotoIntake::insertItem(const Item &item)
+{
+    TSPhotoManager *photos = TSPhotoManager::photoManager();
+    const qint64 position = insertAtIndex++;
+    TSDataManager::dataManager()->insertItem(item, position);
+    if (m_rows)
+        m_rows->photoWillJoin(position, photos->selectedPhoto());
+    photos->insertDraggingPhoto(newPhoto(*item, position), position);
+    if (m_delegate)
+        m_delegate->photoWasAdded(item->resourePath, position);
+}
+
+void TSPhotoIntake::refuse(const QString &path, const QString &reason)
+{
+    if (m_delegate)
+        m_delegate->fileWasRefused(path, reason);
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "session/TSImageBrowserItem.h"
+#include "session/TSPhotoListObserver.h"
+
+#include <atomic>
+#include <memory>
+#include <QStringList>
+
+/// What an intake tells while it runs, on the thread it runs on.
+class TSPhotoIntakeDelegate {
+public:
+    virtual ~TSPhotoIntakeDelegate() = default;
+    virtual void photoWasAdded(const QString &path, qint64 index) = 0;
+    /// A file that gave no photo, with a sentence that says why.
+    virtual void fileWasRefused(const QString &path, const QString &reason) = 0;
+};
+
+/// The way of files into the photo list. One intake at a time, on any one thread; the flag that cancels it
+/// may be set from another.
+class TSPhotoIntake {
+public:
+    explicit TSPhotoIntake(TSPhotoListObserver *rows = nullptr, TSPhotoIntakeDelegate *delegate = nullptr)
+        : m_rows(rows), m_delegate(delegate)
+    {
+    }
+
+    /// Where the next photos go when they are inserted and not appended; moves on behind each of them.
+    qint64 insertAtIndex = 0;
+    std::atomic<bool> processCanceled = false;
+
+    /// Takes the files in, in the given order. Folders are not entered. What is no picture, or is in the list
+    /// already, is passed over and the delegate told.
+    void addItemsWithURLs(const QStringList &paths, bool isInsert);
+    /// The names of the files of this intake that were in the list already, joined by commas.
+    QString repeatedFileNames() const { return m_repeatedFileNames; }
+
+private:
+    using Item = std::shared_ptr<TSImageBrowserItem>;
+
+    void addFile(const QString &path, bool isInsert);
+    bool isAddItem(const QString &path);
+    void addFrames(const QString &path, bool isInsert);
+    void addDrawing(const QString &path, unsigned type, bool isInsert);
+    void addPlainFile(const QString &path, unsigned type, bool isInsert);
+    void performAddItem(const Item &item, bool isInsert);
+    void addItem(const Item &item);
+    void insertItem(const Item &item);
+    void refuse(const QString &path, const QString &reason);
+
+    TSPhotoListObserver *m_rows;
+    TSPhotoIntakeDelegate *m_delegate;
+    QString m_repeatedFileNames;
+};

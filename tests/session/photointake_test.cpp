@@ -1,0 +1,143 @@
+#include "platform/Vips.h"
+#include "session/TSPhotoIntake.h"
+#include "support/Session.h"
+
+#include <functional>
+
+namespace {
+
+/// Notes down what an intake tells.
+class Notes : public TSPhotoIntakeDelegate {
+public:
+    void photoWasAdded(const QString &path, qint64 index) override
+    {
+        added.append(QStringLiteral("%1@%2").arg(path.section(u'/', -1)).arg(index));
+        if (onAdded)
+            onAdded();
+    }
+    void fileWasRefused(const QString &, const QString &reason) override { refused.append(reason); }
+
+    QStringList added;
+    QStringList refused;
+    std::function<void()> onAdded;
+};
+
+class PhotoIntakeTest : public SessionTest {
+protected:
+    QString writePhoto(const QString &name) const { return session.writeJpeg(name, plainImage({16, 8})); }
+
+    /// The pages lie one below the other, as libvips wants them.
+    QString writePages(const QString &name, int pages) const
+    {
+        const platform::LazyImage lazy =
+            platform::LazyImage::fromImage(plainImage({20, 10 * pages}, Qt::red));
+        vips_image_set_int(lazy.vips(), VIPS_META_PAGE_HEIGHT, 10);
+        const QString path = session.path(name);
+        EXPECT_EQ(vips_image_write_to_file(lazy.vips(), QFile::encodeName(path).constData(), nullptr), 0);
+        return path;
+    }
+    QStringList titles() const
+    {
+        QStringList list;
+        for (qint64 i = 0; i < session.data.photoCount(); ++i)
+            list.append(session.data.itemAtIndex(i)->imageTitle());
+        return list;
+    }
+
+    Notes m_notes;
+    TSPhotoIntake m_intake{&session.overlays, &m_notes};
+};
+
+} // namespace
+
+TEST_F(PhotoIntakeTest, RefusesWithAReason)
+{
+    const QString photo = writePhoto(QStringLiteral("a.JPG"));
+    const QString other = writePhoto(QStringLiteral("b.jpg"));
+    m_intake.addItemsWithURLs({photo, session.folder.path(), photo, session.path(QStringLiteral("none.jpg")),
+                               session.write(QStringLiteral("empty.jpg"), {}),
+                               session.write(QStringLiteral("words.jpg"), "words"), other, other},
+                              false);
+    EXPECT_EQ(m_notes.added, (QStringList{QStringLiteral("a.JPG@0"), QStringLiteral("b.jpg@1")}));
+    EXPECT_EQ(m_notes.refused,
+              (QStringList{QStringLiteral("This is a folder, not a photo."),
+                           QStringLiteral("The photo is in the list already."),
+                           QStringLiteral("There is no such file."), QStringLiteral("The file is empty."),
+                           QStringLiteral("The file is not a picture that can be read."),
+                           QStringLiteral("The photo is in the list already.")}));
+    EXPECT_EQ(m_intake.repeatedFileNames(), QStringLiteral("a.JPG,b.jpg"));
+    m_intake.addItemsWithURLs({}, false);
+    EXPECT_EQ(m_intake.repeatedFileNames(), QString()) << "told anew for each intake";
+}
+
+TEST_F(PhotoIntakeTest, EveryFrameIsAPhoto)
+{
+    const struct {
+        const char16_t *name;
+        int pages;
+        QStringList labels;
+    } cases[] = {
+        {u"pages.TIF",
+         3,
+         {QStringLiteral("pages_frame01"), QStringLiteral("pages_frame02"), QStringLiteral("pages_frame03")}},
+        {u"one.tif", 1, {QStringLiteral("one")}},
+        {u"at%1 %2.gif", 2, {QStringLiteral("at%1 %2_frame01"), QStringLiteral("at%1 %2_frame02")}},
+    };
+    for (const auto &[name, pages, labels] : cases) {
+        session.data.removeAllPhotos();
+        const QString path = writePages(QString::fromUtf16(name), pages);
+        m_intake.addItemsWithURLs({path}, false);
+        EXPECT_EQ(titles(), labels);
+        for (int frame = 0; frame < session.data.photoCount(); ++frame) {
+            const auto item = session.data.itemAtIndex(frame);
+            EXPECT_EQ(item->frameCount, quint64(frame));
+            EXPECT_EQ(item->resourePath, path);
+            EXPECT_EQ(item->path, path + u'/' + labels[frame]);
+            EXPECT_EQ(item->cgimage.size(), QSize(20, 10));
+            session.data.GetPhotoSize(frame);
+            EXPECT_EQ(session.photos.photoAtIndex(frame)->photoSize, QSizeF(20, 10));
+        }
+        m_intake.addItemsWithURLs({path}, false);
+        EXPECT_EQ(session.data.photoCount(), pages);
+        EXPECT_EQ(m_intake.repeatedFileNames(), QString::fromUtf16(name));
+    }
+}
+
+TEST_F(PhotoIntakeTest, CancellingFinishesTheFileAtHand)
+{
+    m_notes.onAdded = [this] { m_intake.processCanceled = true; };
+    m_intake.addItemsWithURLs({writePages(QStringLiteral("a.tif"), 3), writePhoto(QStringLiteral("b.jpg"))},
+                              false);
+    EXPECT_EQ(session.data.photoCount(), 3);
+}
+
+TEST_F(PhotoIntakeTest, NewPhotosTakeTheSelectedPhotosRow)
+{
+    const auto overlay = std::make_shared<TSOverlay>();
+    session.overlays.addOverlay(overlay);
+    session.addPhotos(3);
+    for (int row = 0; row < 3; ++row) {
+        overlay->setXPixel(row);
+        overlay->appendRow();
+    }
+    session.photos.setSelectedPhoto(2);
+    const auto selected = session.photos.photoAtIndex(2);
+    m_intake.addItemsWithURLs({writePhoto(QStringLiteral("end.jpg"))}, false);
+    EXPECT_EQ(overlay->xPixelArray, (std::vector<float>{0, 1, 2, 2}));
+
+    m_intake.insertAtIndex = 1;
+    m_intake.addItemsWithURLs({writePhoto(QStringLiteral("i.jpg")), writePhoto(QStringLiteral("j.jpg"))},
+                              true);
+    EXPECT_EQ(titles().mid(1, 2), (QStringList{QStringLiteral("i"), QStringLiteral("j")}));
+    EXPECT_EQ(m_intake.insertAtIndex, 3);
+    EXPECT_EQ(session.photos.photoAtIndex(4), selected);
+    EXPECT_EQ(session.photos.selectedPhoto(), 4);
+    EXPECT_EQ(overlay->xPixelArray.size(), 6u);
+    EXPECT_EQ(overlay->xPixelArray[1], 2.0f);
+    EXPECT_EQ(overlay->xPixelArray[2], 2.0f);
+
+    session.data.removePhotoAtIndex(5);
+    m_intake.addItemsWithURLs({writePhoto(QStringLiteral("late.jpg"))}, false);
+    EXPECT_EQ(overlay->xPixelArray.size(), 7u) << "stray rows stay where they are";
+    EXPECT_EQ(overlay->xPixelArray.back(), overlay->xPixelArray[4]);
+}
