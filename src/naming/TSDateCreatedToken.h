@@ -1,0 +1,14 @@
+#pragma once
+
+#include "naming/TSDateTimeToken.h"
+
+#include <memory>
+
+/// Stands for the day the file was made.
+class TSDateCreatedToken : public TSDateTimeToken {
+public:
+    static std::shared_ptr<TSDateCreatedToken> createDateCreatedToken();
+
+    TSDateCreatedToken();
+    explicit TSDateCreatedToken(platform::KeyedUnarchiver &coder);
+};

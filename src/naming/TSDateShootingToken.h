@@ -1,0 +1,14 @@
+#pragma once
+
+#include "naming/TSDateTimeToken.h"
+
+#include <memory>
+
+/// Stands for the day the photo was taken.
+class TSDateShootingToken : public TSDateTimeToken {
+public:
+    static std::shared_ptr<TSDateShootingToken> createDateShootingToken();
+
+    TSDateShootingToken();
+    explicit TSDateShootingToken(platform::KeyedUnarchiver &coder);
+};

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "naming/TSToken.h"
+
+#include <memory>
+
+/// Stands for the photo's place in the list, in as many digits as `showName` has.
+class TSNumberToken : public TSToken {
+public:
+    static std::shared_ptr<TSNumberToken> createNumberToken();
+
+    TSNumberToken();
+    explicit TSNumberToken(platform::KeyedUnarchiver &coder);
+
+    QStringList classChain() const override;
+    QStringList tokenMenu() const override;
+    void editCellAction(int itemIndex) override;
+};

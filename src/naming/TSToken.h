@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/Archivable.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace platform {
+class KeyedUnarchiver;
+}
+
+/// A placeholder with a menu of variants. The choice changes what the token expands to, never the `name` that
+/// it reads as in its field. Tokens live on the main thread; reading them elsewhere is safe while nobody
+/// changes them.
+class TSToken : public platform::Archivable {
+public:
+    /// 0 in the pattern of file names, 1 among the words of a text.
+    int usingLocal() const { return m_usingLocal; }
+    void setUsingLocal(int usingLocal) { m_usingLocal = usingLocal; }
+    /// The token's identity.
+    const QString &name() const { return m_name; }
+    void setName(const QString &name) { m_name = name; }
+    /// The variant as the example text shows it.
+    const QString &showName() const { return m_showName; }
+    void setShowName(const QString &showName) { m_showName = showName; }
+    /// The titles of the variants, as they were when the token was made.
+    virtual QStringList tokenMenu() const = 0;
+
+    /// Chooses a variant and tells the session. A position outside the menu changes nothing.
+    virtual void editCellAction(int itemIndex) = 0;
+
+    void encodeWithCoder(platform::KeyedArchiver &coder) const override;
+
+protected:
+    TSToken(const QString &name, const QString &showName);
+    explicit TSToken(platform::KeyedUnarchiver &coder);
+
+private:
+    int m_usingLocal = 0;
+    QString m_name;
+    QString m_showName;
+};

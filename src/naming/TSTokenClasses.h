@@ -1,0 +1,6 @@
+#pragma once
+
+#include "platform/KeyedUnarchiver.h"
+
+/// The token classes under the names that archives give them.
+platform::ArchiveClasses tokenClasses();

@@ -1,0 +1,122 @@
+#include "naming/TSOutputSettings.h"
+#include "platform/UserDefaults.h"
+#include "session/TSDataManager.h"
+#include "session/TSNotificationCenter.h"
+#include "session/TSPhoto.h"
+#include "session/TSPhotoManager.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class OutputSettingsTest : public testing::Test {
+protected:
+    OutputSettingsTest()
+    {
+        QObject::connect(&m_center, &TSNotificationCenter::TSResizingPhotoView, [this] { ++m_resizings; });
+        QObject::connect(&m_center, &TSNotificationCenter::TSOutputSizeOrNameChanged,
+                         [this] { ++m_nameChanges; });
+        keep("ByWidth", 2400);
+        keep("ByHeight", 1200);
+        keep("ByPercentage", 50);
+        keep("FitSizeWidth", 800);
+        keep("FitSizeHeight", 600);
+    }
+
+    void keep(const char *key, qint64 value) { m_defaults->setInteger(key, value); }
+    qint64 kept(const char *key) const { return m_defaults->integerForKey(key); }
+
+    std::unique_ptr<platform::UserDefaults> m_defaults = platform::UserDefaults::inMemory();
+    TSNotificationCenter m_center;
+    TSDataManager m_session;
+    TSPhotoManager m_photos;
+    TSOutputSettings m_settings;
+    int m_resizings = 0;
+    int m_nameChanges = 0;
+};
+
+} // namespace
+
+TEST_F(OutputSettingsTest, StartsFromTheDefaults)
+{
+    keep("ExportFormat", 2);
+    keep("ResizeStyle", 4);
+    keep("ByPercentage", 5000);
+    m_settings.initSettingsView();
+    EXPECT_EQ(m_session.type, TSFileType::BMP);
+    EXPECT_EQ(m_session.exportFormat, "bmp");
+    EXPECT_EQ(m_session.quality, 0.85);
+    EXPECT_EQ(m_session.resizeWay, TSResizeWay::FitSize);
+    EXPECT_EQ(m_session.outputWidth, 800);
+    EXPECT_EQ(m_session.outputHeight, 600);
+    EXPECT_EQ(m_session.percentage, 0);
+    EXPECT_EQ(m_settings.size(TSSizeField::ByPercentage), 1000);
+    EXPECT_EQ(m_resizings, 1);
+    EXPECT_EQ(m_settings.namePattern().objectValue().size(), 1U);
+    keep("ExportFormat", 9);
+    keep("ResizeStyle", -1);
+    m_settings.initSettingsView();
+    EXPECT_EQ(m_session.type, TSFileType::JPG);
+    EXPECT_EQ(m_session.resizeWay, TSResizeWay::KeepOriginalSize);
+}
+
+TEST_F(OutputSettingsTest, FormatsKeepTheQuality)
+{
+    m_settings.initSettingsView();
+    m_photos.addPhoto(std::make_shared<TSPhoto>());
+    m_settings.qualityTyped(u"40");
+    const std::tuple<const char *, unsigned, const char *, bool> formats[] = {{"PNG", 4, "png", false},
+                                                                              {"BMP", 1, "bmp", false},
+                                                                              {"TIFF", 0, "tiff", false},
+                                                                              {"JPG", 3, "jpg", true}};
+    for (const auto &[title, type, extension, hasQuality] : formats) {
+        const qint64 index = TSOutputSettings::formatTitles().indexOf(title);
+        m_settings.formatChanged(index);
+        EXPECT_EQ(m_session.type, type);
+        EXPECT_EQ(m_session.exportFormat, extension);
+        EXPECT_EQ(kept("ExportFormat"), index);
+        EXPECT_EQ(m_settings.isQualityEnabled(), hasQuality);
+    }
+    EXPECT_EQ(m_session.quality, 0.4);
+    EXPECT_EQ(m_nameChanges, 4) << "the extension shows in the tip";
+}
+
+TEST_F(OutputSettingsTest, EveryWayBringsItsOwnSizesBack)
+{
+    m_settings.initSettingsView();
+    m_settings.resizeWayChanged(TSResizeWay::FitSize);
+    m_settings.resizeWayChanged(TSResizeWay::ByWidth);
+    EXPECT_EQ(m_session.outputWidth, 2400);
+    m_settings.sizeChanged(TSSizeField::ByWidth, 20000);
+    EXPECT_EQ(m_session.outputWidth, 9999);
+    EXPECT_EQ(kept("ByWidth"), 9999);
+    m_settings.resizeWayChanged(TSResizeWay::FitSize);
+    EXPECT_EQ(m_session.outputWidth, 800);
+    EXPECT_EQ(m_session.outputHeight, 600);
+    m_settings.resizeWayChanged(TSResizeWay::ByPercentage);
+    m_settings.sizeTyped(TSSizeField::ByPercentage, u"1001");
+    EXPECT_EQ(m_session.percentage, 1000);
+    m_settings.sizeTyped(TSSizeField::ByPercentage, u"");
+    EXPECT_EQ(m_session.percentage, 1000);
+    EXPECT_EQ(kept("ResizeStyle"), 3);
+    EXPECT_EQ(m_resizings, 1) << "the preview waits for the end of typing";
+    m_settings.sizeDidEndEditing();
+    EXPECT_EQ(m_resizings, 2);
+}
+
+TEST(OutputSettings, TypedNumbersStayInTheirRange)
+{
+    const std::tuple<const char16_t *, int, std::optional<int>> cases[] = {
+        {u"12a", 9999, 12},
+        {u"", 9999, std::nullopt},
+        {u"0", 9999, 1},
+        {u"-5", 9999, 1},
+        {u"101", 100, 100},
+        {u" 7 ", 9999, 7},
+        {u"99999999999999999999", 100, 100},
+        {u"٣", 100, 1},
+        {u"3.9", 100, 3},
+        {u"+8", 100, 8}};
+    for (const auto &[text, top, number] : cases)
+        EXPECT_EQ(TSOutputSettings::typedNumber(text, top), number) << QString::fromUtf16(text).toStdString();
+}
