@@ -1,0 +1,139 @@
+#include "overlays/TSOverlay.h"
+
+#include "overlays/TSRows.h"
+#include "platform/KeyedArchiver.h"
+#include "platform/KeyedUnarchiver.h"
+#include "session/TSPhotoManager.h"
+
+#include <QTransform>
+
+namespace {
+
+QTransform turnAbout(const QPointF &center, double angle)
+{
+    QTransform transform;
+    transform.translate(center.x(), center.y());
+    transform.rotateRadians(angle);
+    transform.translate(-center.x(), -center.y());
+    return transform;
+}
+
+} // namespace
+
+TSOverlay::TSOverlay() : m_tracker(std::make_unique<TSTracker>()), m_shadow(std::make_shared<TSShadow>()) {}
+
+TSOverlay::TSOverlay(platform::KeyedUnarchiver &coder) : TSOverlay()
+{
+    m_ratioOfFrameByAlignment = coder.decodeRect(u"ratioOfFrameByAlignment");
+    m_centerRatioOfFrame = coder.decodeRect(u"centerRatioOfFrame");
+    m_angle = double(coder.decodeFloat(u"angle"));
+    m_opacity = double(coder.decodeFloat(u"opacity"));
+    if (auto shadow = coder.decodeObject(u"shadow").toObject<TSShadow>())
+        m_shadow = std::move(shadow);
+    m_wmAlignment = unsigned(coder.decodeInteger(u"wmAlignment"));
+    m_xPixel = double(coder.decodeFloat(u"xPixel"));
+    m_yPixel = double(coder.decodeFloat(u"yPixel"));
+    m_oldRatioOfFrameByAlignment = coder.decodeRect(u"oldRatioOfFrameByAlignment");
+    m_oldXPixel = double(coder.decodeFloat(u"oldXPixel"));
+    m_oldYPixel = double(coder.decodeFloat(u"oldYPixel"));
+    m_frame = coder.decodeRect(u"frame");
+    const qint64 photos = TSPhotoManager::photoManager()->photoCount();
+    for (qint64 i = 0; i < photos; ++i) {
+        TSOverlay::appendRow();
+        oldRatioOfFrameByAlignmentArray.push_back(m_oldRatioOfFrameByAlignment);
+    }
+    // Of the stored frame only the shape counts: the frame is made anew for the canvas of today.
+    updateFrameByAlignmentRatio(false);
+}
+
+TSOverlay::~TSOverlay() = default;
+
+void TSOverlay::encodeWithCoder(platform::KeyedArchiver &coder) const
+{
+    coder.encodeRect(u"ratioOfFrameByAlignment", m_ratioOfFrameByAlignment);
+    coder.encodeRect(u"centerRatioOfFrame", m_centerRatioOfFrame);
+    coder.encodeFloat(u"angle", float(m_angle));
+    coder.encodeFloat(u"opacity", float(m_opacity));
+    coder.encodeObject(u"shadow", m_shadow);
+    coder.encodeInteger(u"wmAlignment", m_wmAlignment);
+    coder.encodeFloat(u"xPixel", float(m_xPixel));
+    coder.encodeFloat(u"yPixel", float(m_yPixel));
+    coder.encodeRect(u"oldRatioOfFrameByAlignment", m_oldRatioOfFrameByAlignment);
+    coder.encodeFloat(u"oldXPixel", float(m_oldXPixel));
+    coder.encodeFloat(u"oldYPixel", float(m_oldYPixel));
+    coder.encodeRect(u"frame", m_frame);
+}
+
+void TSOverlay::appendRow()
+{
+    ratioOfFrameByAlignmentArray.push_back(m_ratioOfFrameByAlignment);
+    xPixelArray.push_back(float(m_xPixel));
+    yPixelArray.push_back(float(m_yPixel));
+    wmAlignmentArray.push_back(m_wmAlignment);
+    angleArray.push_back(float(m_angle));
+}
+
+void TSOverlay::insertRowCopy(qint64 position, qint64 copied)
+{
+    TSInsertRowCopy(ratioOfFrameByAlignmentArray, position, copied);
+    TSInsertRowCopy(xPixelArray, position, copied);
+    TSInsertRowCopy(yPixelArray, position, copied);
+    TSInsertRowCopy(wmAlignmentArray, position, copied);
+    TSInsertRowCopy(angleArray, position, copied);
+}
+
+void TSOverlay::removeRow(qint64 position)
+{
+    TSRemoveRow(ratioOfFrameByAlignmentArray, position);
+    TSRemoveRow(xPixelArray, position);
+    TSRemoveRow(yPixelArray, position);
+    TSRemoveRow(wmAlignmentArray, position);
+    TSRemoveRow(angleArray, position);
+}
+
+void TSOverlay::moveRow(qint64 from, qint64 to)
+{
+    TSMoveRow(ratioOfFrameByAlignmentArray, from, to);
+    TSMoveRow(xPixelArray, from, to);
+    TSMoveRow(yPixelArray, from, to);
+    TSMoveRow(wmAlignmentArray, from, to);
+    TSMoveRow(angleArray, from, to);
+}
+
+void TSOverlay::loadRow(qint64 position)
+{
+    TSLoadRow(ratioOfFrameByAlignmentArray, position, m_ratioOfFrameByAlignment);
+    TSLoadRow(xPixelArray, position, m_xPixel);
+    TSLoadRow(yPixelArray, position, m_yPixel);
+    TSLoadRow(wmAlignmentArray, position, m_wmAlignment);
+    TSLoadRow(angleArray, position, m_angle);
+}
+
+QPointF TSOverlay::convertPoint(const QPointF &point) const
+{
+    return turnAbout(m_frame.center(), -m_angle).map(point);
+}
+
+QRectF TSOverlay::convertRect(const QRectF &rect) const
+{
+    return turnAbout(m_frame.center(), -m_angle).mapRect(rect);
+}
+
+QPointF TSOverlay::convertPointToPreview(const QPointF &point) const
+{
+    return turnAbout(m_frame.center(), m_angle).map(point);
+}
+
+QRectF TSOverlay::convertRectToPreview(const QRectF &rect) const
+{
+    return turnAbout(m_frame.center(), m_angle).mapRect(rect);
+}
+
+void TSOverlay::updateFrameByCenterPoint(const QPointF &center)
+{
+    const QPointF turned = turnAbout(center, m_angle).map(m_frame.center());
+    m_frame.moveTopLeft(turned - QPointF(m_frame.width() / 2, m_frame.height() / 2));
+    m_tracker->setFrame(m_frame);
+}
+
+void TSOverlay::drawIncontext(platform::PaintLayer &) {}

@@ -1,0 +1,105 @@
+#include "overlays/TSTextRenderer.h"
+
+#include "platform/BoxBlur.h"
+#include "session/TSImageUtility.h"
+
+#include <cmath>
+
+namespace {
+
+/// A platform that was asked for a bitmap beyond this would refuse it too.
+constexpr double largestBitmap = 4e8;
+
+QImage newBitmap(const TSTextPicture &picture)
+{
+    const double width = (picture.phase.x() + picture.frameSize.width()) * picture.factor;
+    const double height = (picture.phase.y() + picture.frameSize.height()) * picture.factor;
+    const bool hasSize = picture.frameSize.width() > 0 && picture.frameSize.height() > 0;
+    if (!hasSize || !(width * height <= largestBitmap))
+        return {};
+    // The phase can leave a sliver of the last pixel uncovered in single precision.
+    return TSCreateBitmapContext(std::ceil(float(width)), std::ceil(float(height)));
+}
+
+} // namespace
+
+QSizeF TSTextRenderer::naturalSize(const platform::AttributedString &text)
+{
+    return layoutOf(text).size();
+}
+
+const platform::TextLayout &TSTextRenderer::layoutOf(const platform::AttributedString &text)
+{
+    if (!m_layout || m_laidOutText != text) {
+        m_layout = std::make_unique<platform::TextLayout>(text);
+        m_laidOutText = text;
+    }
+    return *m_layout;
+}
+
+void TSTextRenderer::render(const TSTextPicture &wanted)
+{
+    if (!m_image.isNull() && m_picture == wanted)
+        return;
+    m_picture = wanted;
+    m_image = newBitmap(wanted);
+    if (m_image.isNull())
+        return;
+    QPainter painter(&m_image);
+    const TSTextLook &look = m_picture.look;
+    if (look.isGlowEnable)
+        drawGlow(painter);
+    painter.scale(wanted.factor, wanted.factor);
+    painter.translate(wanted.phase);
+    if (look.isStrokeEnable)
+        drawStroke(painter, look.strokeWidth, look.strokeColor.withAlpha(1));
+    drawText(painter, {});
+}
+
+void TSTextRenderer::drawText(QPainter &painter, const platform::TextAttributes &over)
+{
+    const platform::TextLayout &layout = layoutOf(m_picture.text);
+    const float scale = float(m_picture.glyphHeight / layout.size().height());
+    painter.save();
+    painter.scale(double(scale), double(scale));
+    layout.draw(painter, over);
+    painter.restore();
+}
+
+/// A quarter percent of the font size for a unit of width, so that the outline grows with the text.
+void TSTextRenderer::drawStroke(QPainter &painter, double strokeWidth, const platform::Color &color)
+{
+    platform::TextAttributes over;
+    over.strokeWidth = double(float(strokeWidth * 0.25));
+    over.strokeColor = color;
+    over.underlineColor = color;
+    over.strikethroughColor = color;
+    drawText(painter, over);
+}
+
+/// The glow is one colour, so its coverage alone is blurred. It is made at factor 1 and enlarged with the
+/// target.
+void TSTextRenderer::drawGlow(QPainter &painter)
+{
+    TSTextPicture single = m_picture;
+    single.factor = 1;
+    QImage mask = newBitmap(single).convertToFormat(QImage::Format_Alpha8);
+    QPainter inside(&mask);
+    inside.translate(m_picture.phase);
+    drawStroke(inside, double(float(m_picture.look.glowWidth / 3.0)), platform::Color::black());
+    inside.end();
+    const QImage blurred = platform::boxBlurred(mask, int(m_picture.look.glowBlur));
+    painter.save();
+    painter.scale(m_picture.factor, m_picture.factor);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(0, 0, platform::tinted(blurred, m_picture.look.glowColor.withAlpha(1).toQColor()));
+    painter.restore();
+}
+
+QRectF TSTextRenderer::placeInFrame(const QRectF &frame) const
+{
+    const double across = frame.width() / m_picture.frameSize.width();
+    const double down = frame.height() / m_picture.frameSize.height();
+    return {frame.x() - m_picture.phase.x() * across, frame.y() - m_picture.phase.y() * down,
+            pictureSize().width() * across, pictureSize().height() * down};
+}
