@@ -1,0 +1,295 @@
+#include "export/TSExportRun.h"
+#include "support/ExportSession.h"
+
+#include <csignal>
+#include <future>
+#include <QDir>
+#include <QThread>
+#include <sys/resource.h>
+#include <thread>
+
+using Status = TSExportOutcome::Status;
+
+namespace {
+
+/// Answers as it is told to, and writes down what it is asked and told.
+class ScriptedHost : public TSExportHost {
+public:
+    bool continueWithBiggerPhoto() override
+    {
+        heard.append("bigger");
+        return goesOn;
+    }
+    void sourceIsMissing(const QString &path) override
+    {
+        heard.append(QStringLiteral("missing:") + QFileInfo(path).fileName());
+    }
+    int nameIsTaken(const QString &path) override
+    {
+        heard.append(QStringLiteral("taken:") + QFileInfo(path).fileName());
+        if (whenTaken)
+            whenTaken();
+        return answer;
+    }
+    void photoIsDone(qint64, const TSExportOutcome &outcome) override
+    {
+        outcomes.push_back(outcome);
+        if (whenDone)
+            whenDone(outcomes.size());
+    }
+    void setProgressTip(qint64 index) override
+    {
+        tips.append(index);
+        if (whenTipped)
+            whenTipped();
+    }
+    void closeProgressSheet() override { heard.append("close"); }
+    void successfulSaveToPath(const QString &path) override
+    {
+        heard.append(QStringLiteral("saved:") + QFileInfo(path).fileName());
+    }
+
+    bool goesOn = true;
+    int answer = TSConflictChoice::Rename;
+    QStringList heard;
+    QList<qint64> tips;
+    std::vector<TSExportOutcome> outcomes;
+    std::function<void()> whenTaken;
+    std::function<void(size_t)> whenDone;
+    std::function<void()> whenTipped;
+};
+
+/// Runs something while it is being drawn.
+class Trap : public TSOverlay {
+public:
+    void drawIncontext(platform::PaintLayer &) override { whenDrawn(); }
+    std::function<void()> whenDrawn;
+};
+
+class RunTest : public ExportTest {
+protected:
+    RunTest() { QDir().mkpath(out); }
+
+    void addPhotos(std::initializer_list<const char *> names, const QSize &size = {40, 30})
+    {
+        for (const char *name : names)
+            addPhoto(QString::fromLatin1(name) + QStringLiteral(".png"), size);
+    }
+    void startAnew(const QString &subfolder = {})
+    {
+        QDir(out).removeRecursively();
+        QDir().mkpath(out + u'/' + subfolder);
+    }
+    QStringList files() const
+    {
+        return QDir(out).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+    }
+    QStringList savedNames(const TSExportRun &of) const
+    {
+        return of.savedPaths().join(u',').remove(out + u'/').split(u',', Qt::SkipEmptyParts);
+    }
+
+    const QString out = session.path("out");
+    ScriptedHost host;
+    TSExportRun run{host};
+};
+
+/// The process may not write files larger than this while it lives: writes fail as on a full disk.
+class FullDisk {
+public:
+    explicit FullDisk(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit small{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
+
+private:
+    rlimit m_before{};
+};
+
+} // namespace
+
+TEST_F(RunTest, ATakenNameIsAskedAboutOnce)
+{
+    const std::tuple<const char *, int, const char *, const char *, const char *> cases[] = {
+        {"", TSConflictChoice::Rename, "x.jpg x_001.jpg x_002.jpg", "x.jpg x_001.jpg x_002.jpg",
+         "taken:x.jpg close saved:x.jpg"},
+        {"", TSConflictChoice::Replace, "x.jpg", "x.jpg x.jpg x.jpg", "taken:x.jpg close saved:x.jpg"},
+        {"", TSConflictChoice::Stop, "x.jpg", "x.jpg", "taken:x.jpg close"},
+        {"x.jpg", TSConflictChoice::Rename, "x.jpg x_001.jpg x_002.jpg x_003.jpg",
+         "x_001.jpg x_002.jpg x_003.jpg", "taken:x.jpg close saved:x_001.jpg"},
+        {"x.jpg x_002.jpg", TSConflictChoice::Rename, "x.jpg x_001.jpg x_002.jpg x_003.jpg x_004.jpg",
+         "x_001.jpg x_003.jpg x_004.jpg", "taken:x.jpg close saved:x_001.jpg"},
+        {"x.jpg", TSConflictChoice::Stop, "x.jpg", "", "taken:x.jpg close"}};
+    addPhotos({"a", "b", "c"});
+    session.data.exportNames = words("x x x");
+    for (const auto &[there, answer, left, saved, heard] : cases) {
+        startAnew();
+        for (const QString &name : words(there))
+            session.write(QStringLiteral("out/") + name, "there");
+        ScriptedHost asked;
+        asked.answer = answer;
+        TSExportRun each(asked);
+        each.savePhotos(out);
+        EXPECT_EQ(files(), words(left));
+        EXPECT_EQ(asked.heard, words(heard)) << asked.heard.join(u',').toStdString();
+        EXPECT_EQ(savedNames(each), words(saved));
+        EXPECT_EQ(each.savedCount(), words(saved).size());
+        EXPECT_EQ(asked.outcomes.back().status == Status::Skipped, answer == TSConflictChoice::Stop);
+        EXPECT_EQ(bytesOf(out + QStringLiteral("/x.jpg")) == "there", *there != 0);
+    }
+}
+
+TEST_F(RunTest, ADryRunGivesOutTheNamesOfARealOne)
+{
+    addPhotos({"a", "b", "c"});
+    session.data.exportNames = words("x%2 x%2 x%2");
+    session.write("out/x%2_001.jpg", "there");
+    TSExportRun planned(host);
+    planned.isDryRun = true;
+    planned.savePhotos(out);
+    EXPECT_EQ(files(), words("x%2_001.jpg"));
+    EXPECT_EQ(host.outcomes[0].reason.toStdString(), "dry run");
+    run.savePhotos(out);
+    EXPECT_EQ(savedNames(run), words("x%2.jpg x%2_002.jpg x%2_003.jpg"));
+    EXPECT_EQ(planned.savedPaths(), run.savedPaths());
+}
+
+TEST_F(RunTest, MissingSourcesAreToldOfOnce)
+{
+    addPhotos({"a", "b", "c"});
+    QFile::remove(session.path("a.png"));
+    QFile::remove(session.path("c.png"));
+    run.savePhotos(out);
+    EXPECT_EQ(host.heard, words("missing:a.png close saved:b.jpg"));
+    EXPECT_EQ(files(), words("b.jpg"));
+    EXPECT_EQ(host.tips, QList<qint64>{1});
+    ASSERT_EQ(host.outcomes.size(), 3U);
+    EXPECT_EQ(host.outcomes[2].status, Status::Skipped);
+    QFile::remove(session.path("b.png"));
+    host.heard.clear();
+    run.savePhotos(out);
+    EXPECT_EQ(host.heard, words("missing:a.png close")) << "nothing was saved, and each run asks anew";
+}
+
+TEST_F(RunTest, EndsBeforeItBegins)
+{
+    run.savePhotos(session.path("nowhere"));
+    EXPECT_TRUE(host.heard.isEmpty());
+    run.savePhotos(out);
+    EXPECT_EQ(host.heard, words("close")) << "there are no names";
+    host.heard.clear();
+    session.addPhotos(1, {20000, 20001});
+    session.data.exportNames = words("a");
+    host.goesOn = false;
+    run.savePhotos(out);
+    EXPECT_EQ(host.heard, words("bigger close"));
+    EXPECT_TRUE(host.outcomes.empty());
+    host.goesOn = true;
+    host.heard.clear();
+    run.savePhotos(out);
+    EXPECT_EQ(host.heard, words("bigger missing:0.jpg close"));
+}
+
+/// The second of three photos cannot be written; the others can.
+TEST_F(RunTest, AFailedWriteIsLeftBehind)
+{
+    const QString longName(300, u'b');
+    const std::tuple<QString, const char *, const char *, bool> cases[] = {
+        {"2024/b", "out/2024 does not exist.", "", false},
+        {longName, "could not be written", "", false},
+        {"b", "A folder stands under the name", "b.jpg", false},
+        {"b", "could not be written", "", true}};
+    addPhotos({"a"});
+    takeIn(session.writePng("b.png", noise({200, 150})));
+    addPhotos({"c"});
+    const QByteArray originals = bytesOf(session.path("b.png"));
+    for (const auto &[name, reason, there, isFull] : cases) {
+        startAnew(there);
+        session.data.exportNames = {"a", name, "c"};
+        ScriptedHost told;
+        told.answer = TSConflictChoice::Replace;
+        std::optional<FullDisk> disk;
+        told.whenDone = [&disk, isFullNow = isFull](size_t count) {
+            if (isFullNow && count == 1)
+                disk.emplace(5000);
+            else
+                disk.reset();
+        };
+        TSExportRun each(told);
+        each.savePhotos(out);
+        ASSERT_EQ(told.outcomes.size(), 3U);
+        EXPECT_EQ(told.outcomes[0].status, Status::Written);
+        EXPECT_EQ(told.outcomes[1].status, Status::Failed);
+        EXPECT_TRUE(told.outcomes[1].reason.contains(reason)) << told.outcomes[1].reason.toStdString();
+        EXPECT_EQ(told.outcomes[2].status, Status::Written);
+        EXPECT_EQ(each.savedCount(), 2);
+        EXPECT_EQ(each.savedPaths().value(1), QStringLiteral("%1/%2.jpg").arg(out, name));
+        EXPECT_EQ(told.tips, (QList<qint64>{0, 1, 2}));
+        QStringList left = words("a.jpg c.jpg");
+        if (*there)
+            left.insert(1, there);
+        EXPECT_EQ(files(), left);
+        EXPECT_EQ(bytesOf(session.path("b.png")), originals);
+    }
+}
+
+TEST_F(RunTest, TheFirstPathIsToldThoughItsWriteFailed)
+{
+    addPhotos({"a", "b"});
+    session.data.exportNames = words("no/a b");
+    run.savePhotos(out);
+    EXPECT_EQ(savedNames(run), words("no/a.jpg b.jpg"));
+    EXPECT_EQ(host.heard, words("close saved:a.jpg"));
+}
+
+TEST_F(RunTest, ACancelTakesEffectAtTheNextGate)
+{
+    addPhotos({"a", "b", "c"});
+    session.data.exportNames = words("x x x");
+    const auto trap = std::make_shared<Trap>();
+    addOverlay(trap);
+    const std::tuple<const char *, const char *, const char *> cases[] = {
+        {"composing", "", "close"},
+        {"asking", "x.jpg", "taken:x.jpg close"},
+        {"between", "x.jpg", "close"},
+        {"leaving", "", ""}};
+    for (const auto &[where, left, heard] : cases) {
+        startAnew();
+        ScriptedHost asked;
+        TSExportRun each(asked);
+        const std::function<void()> cancel = [&each] { each.isCancelled = true; };
+        const auto in = [where = QByteArray(where)](const char *name) { return where == name; };
+        trap->whenDrawn = [&] {
+            in("composing") ? cancel() : void(session.data.isExitExport = in("leaving"));
+        };
+        asked.whenTaken = in("asking") ? cancel : std::function<void()>();
+        asked.whenTipped = in("between") ? cancel : std::function<void()>();
+        each.savePhotos(out);
+        EXPECT_EQ(files(), words(left)) << where;
+        EXPECT_EQ(asked.heard, words(heard)) << where;
+    }
+}
+
+TEST_F(RunTest, APausedRunWaits)
+{
+    addPhotos({"a", "b"});
+    std::promise<void> paused;
+    host.whenTipped = [&] {
+        if (host.tips.size() > 1)
+            return;
+        run.isPausing = true;
+        paused.set_value();
+    };
+    std::thread exporting([this] { run.savePhotos(out); });
+    paused.get_future().wait();
+    QThread::msleep(60);
+    EXPECT_EQ(files(), words("a.jpg"));
+    run.isPausing = false;
+    exporting.join();
+    EXPECT_EQ(files(), words("a.jpg b.jpg"));
+    EXPECT_EQ(host.heard, words("close saved:a.jpg"));
+}
