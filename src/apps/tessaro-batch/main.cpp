@@ -1,0 +1,31 @@
+#include "batch/TSBatchCommand.h"
+
+#include <malloc.h>
+#include <QGuiApplication>
+
+namespace {
+
+/// Standard error belongs to what the command itself has to say; the toolkit's remarks on the environment do
+/// not concern whoever reads it.
+void discardRemark(QtMsgType, const QMessageLogContext &, const QString &) {}
+
+/// Pictures come and go by the megabyte. Left to itself the allocator learns to keep such blocks, and a long
+/// run grows by what lies unused between them.
+void returnLargeBlocks()
+{
+    mallopt(M_MMAP_THRESHOLD, 1 << 22);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    // Fonts need an application object; this platform serves them without a screen.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    returnLargeBlocks();
+    qInstallMessageHandler(discardRemark);
+    QGuiApplication application(argc, argv);
+    QGuiApplication::setApplicationName(QStringLiteral("Tessaro"));
+    QGuiApplication::setApplicationVersion(QStringLiteral(TESSARO_VERSION));
+    return TSBatchCommand::run(QGuiApplication::arguments().mid(1));
+}

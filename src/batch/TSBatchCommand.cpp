@@ -1,0 +1,204 @@
+#include "batch/TSBatchCommand.h"
+
+#include "batch/TSBatchMarkBuilder.h"
+#include "batch/TSBatchOptionParser.h"
+#include "batch/TSBatchSignals.h"
+#include "naming/TSNamePattern.h"
+#include "overlays/TSOverlayManager.h"
+#include "platform/FontChoice.h"
+#include "platform/UserDefaults.h"
+#include "session/TSDataManager.h"
+#include "session/TSDefaults.h"
+#include "session/TSFileUtility.h"
+#include "session/TSPhotoManager.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <unistd.h>
+
+using Status = TSExportOutcome::Status;
+
+namespace {
+
+/// 20000 by 20000: what the window asks about, the command does not make.
+constexpr double largestOutput = 400000000;
+
+TSBatchReporter::Form formFor(const TSBatchOptions &options)
+{
+    if (options.isJson)
+        return TSBatchReporter::Form::Json;
+    return isatty(STDOUT_FILENO) ? TSBatchReporter::Form::Terminal : TSBatchReporter::Form::Plain;
+}
+
+int tellUsage(const TSBatchOptionParser::Result &parsed)
+{
+    std::fputs(
+        QStringLiteral("tessaro-batch: %1\nusage: %2\n").arg(parsed.error, parsed.usage).toUtf8().constData(),
+        stderr);
+    return TSBatchStatus::WrongUsage;
+}
+
+int tell(const QString &text)
+{
+    std::fputs(text.toUtf8().constData(), stdout);
+    return TSBatchStatus::AllWritten;
+}
+
+void warnOfFonts(const TSBatchOptions &options, TSBatchReporter &reporter)
+{
+    for (const TSBatchMark &mark : options.marks)
+        if (mark.kind != TSBatchMark::Kind::Image && !platform::isFontFamilyAvailable(mark.font.family))
+            reporter.warning(QStringLiteral("the font %1 is not installed; another one stands in for it")
+                                 .arg(mark.font.family));
+}
+
+} // namespace
+
+int TSBatchCommand::run(const QStringList &arguments)
+{
+    const TSBatchOptionParser::Result parsed = TSBatchOptionParser::parse(arguments);
+    if (!parsed.error.isEmpty())
+        return tellUsage(parsed);
+    if (parsed.options.wantsHelp)
+        return tell(TSBatchOptionParser::help());
+    if (parsed.options.wantsVersion)
+        return tell(QStringLiteral("tessaro-batch %1\n").arg(QCoreApplication::applicationVersion()));
+    // The command has settings of its own and leaves the user's alone.
+    const auto defaults = platform::UserDefaults::inMemory();
+    TSWriteLaunchDefaults();
+    TSBatchReporter reporter(formFor(parsed.options));
+    warnOfFonts(parsed.options, reporter);
+    return TSBatchCommand(parsed.options, reporter).exportAll();
+}
+
+TSBatchCommand::TSBatchCommand(const TSBatchOptions &options, TSBatchReporter &reporter)
+    : m_options(options), m_reporter(reporter), m_run(*this)
+{
+    m_run.isDryRun = options.isDryRun;
+    m_run.largestOutput = largestOutput;
+    // A photo that could not be taken in is an original all the same.
+    m_run.keptFiles = options.photos;
+    for (const TSBatchMark &mark : options.marks)
+        m_run.keptFiles.append(mark.imagePath);
+    m_run.placed = [this](qint64, const std::vector<TSMarkPlacement> &marks) { m_placements = marks; };
+}
+
+int TSBatchCommand::exportAll()
+{
+    const TSBatchSignals signals(m_run.isCancelled);
+    takePhotosIn();
+    m_reporter.begin(qint64(m_entries.size()));
+    if (publishCanvas())
+        TSBatchMarkBuilder::build(m_options.marks);
+    requestOutput();
+    nameOutputs();
+    m_run.savePhotos(outputFolder());
+    tellRest();
+    m_reporter.end();
+    if (m_run.isCancelled)
+        return TSBatchStatus::Interrupted;
+    return m_reporter.isComplete() ? TSBatchStatus::AllWritten : TSBatchStatus::SomeNotWritten;
+}
+
+void TSBatchCommand::takePhotosIn()
+{
+    TSPhotoIntake intake(TSOverlayManager::overlayManager(), this);
+    for (const QString &path : m_options.photos) {
+        if (m_run.isCancelled)
+            return;
+        m_givenPath = path;
+        const QFileInfo info(path);
+        intake.addItemsWithURLs({QDir::cleanPath(info.absoluteFilePath())}, false);
+    }
+}
+
+void TSBatchCommand::photoWasAdded(const QString &, qint64 index)
+{
+    m_entries.push_back({m_givenPath, index, {}});
+}
+
+void TSBatchCommand::fileWasRefused(const QString &path, const QString &reason)
+{
+    TSExportOutcome outcome;
+    const bool isRepeated = TSDataManager::dataManager()->isHasItem(path);
+    outcome.status = isRepeated ? Status::Skipped : Status::Failed;
+    outcome.reason = reason;
+    m_entries.push_back({m_givenPath, -1, outcome});
+}
+
+/// A dry run can do without a folder.
+QString TSBatchCommand::outputFolder() const
+{
+    return m_options.output.isEmpty() ? QDir::currentPath() : m_options.output;
+}
+
+/// The first photo whose size can be told stands on the canvas, at one point a pixel.
+bool TSBatchCommand::publishCanvas()
+{
+    TSDataManager *data = TSDataManager::dataManager();
+    TSPhotoManager *photos = TSPhotoManager::photoManager();
+    bool isPublished = false;
+    for (const auto &photo : photos->photos()) {
+        data->GetPhotoSize(photo->index);
+        if (isPublished || photo->photoSize.isEmpty())
+            continue;
+        photos->setSelectedPhoto(photo->index);
+        data->canvasFrame = QRectF(QPointF(0, 0), photo->photoSize);
+        data->previewFrame = data->canvasFrame;
+        data->photoRatioOfSize = 1;
+        isPublished = true;
+    }
+    return isPublished;
+}
+
+void TSBatchCommand::requestOutput()
+{
+    TSDataManager *data = TSDataManager::dataManager();
+    data->type = m_options.type;
+    data->exportFormat = m_options.exportFormat;
+    data->quality = double(m_options.quality) / 100;
+    data->resizeWay = m_options.resizeWay;
+    data->outputWidth = m_options.outputWidth;
+    data->outputHeight = m_options.outputHeight;
+    data->percentage = m_options.percentage;
+}
+
+void TSBatchCommand::nameOutputs()
+{
+    TSNamePattern pattern;
+    pattern.setObjectValue(m_options.name);
+    pattern.exportImageNames();
+}
+
+void TSBatchCommand::photoIsDone(qint64 index, const TSExportOutcome &outcome)
+{
+    tellEntriesBefore(index);
+    m_reporter.photo(m_entries[m_told].source, outcome, m_placements);
+    m_placements.reset();
+    ++m_told;
+}
+
+/// Files that gave no photo are told of in their place among the photos.
+void TSBatchCommand::tellEntriesBefore(qint64 photo)
+{
+    for (; m_told < m_entries.size() && m_entries[m_told].photo != photo; ++m_told)
+        m_reporter.photo(m_entries[m_told].source, m_entries[m_told].refusal);
+}
+
+void TSBatchCommand::tellRest()
+{
+    TSExportOutcome untouched;
+    untouched.status = m_run.isCancelled ? Status::Skipped : Status::Failed;
+    untouched.reason = QStringLiteral("The export was cancelled.");
+    if (!m_run.isCancelled) {
+        const bool hasFolder = TSIsDirectory(outputFolder());
+        untouched.status = hasFolder ? Status::Skipped : Status::Failed;
+        untouched.reason = hasFolder ? QStringLiteral("The run was stopped before this photo.")
+                                     : QStringLiteral("The folder %1 does not exist.").arg(m_options.output);
+    }
+    for (; m_told < m_entries.size(); ++m_told) {
+        const Entry &entry = m_entries[m_told];
+        m_reporter.photo(entry.source, entry.photo < 0 ? entry.refusal : untouched);
+    }
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "batch/TSBatchOptions.h"
+
+#include <memory>
+
+class TSOverlay;
+class TSPhoto;
+class TSText;
+
+/// Makes the overlays of a command line and gives each its rows, one for each photo. Needs a session with its
+/// photos in the list, one of them selected and its canvas published.
+class TSBatchMarkBuilder {
+public:
+    /// Fills the overlay manager, the first mark on top, and sets the session's unit.
+    static void build(const std::vector<TSBatchMark> &marks);
+
+private:
+    static std::shared_ptr<TSOverlay> newOverlay(const TSBatchMark &mark, const TSPhoto &shown);
+    static void place(TSOverlay &overlay, const TSBatchMark &mark);
+    static void becomeScript(TSText &text, const TSBatchMark &mark);
+    static void writeRows(TSOverlay &overlay, const TSBatchMark &mark);
+};

@@ -1,0 +1,370 @@
+#include "batch/TSBatchOptionParser.h"
+
+#include "batch/TSBatchValues.h"
+#include "export/TSExportHost.h"
+#include "naming/TSPatternParser.h"
+#include "platform/FontChoice.h"
+#include "platform/ImageFile.h"
+
+#include <array>
+#include <functional>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+/// What reading an option can end with: nothing wrong, or a sentence about it.
+using Problem = std::optional<QString>;
+
+struct Parse {
+    TSBatchOptions options;
+    bool optionsHaveEnded = false;
+
+    TSBatchMark *lastMark() { return options.marks.empty() ? nullptr : &options.marks.back(); }
+    TSBatchMark *lastText()
+    {
+        TSBatchMark *mark = lastMark();
+        return mark && mark->kind != TSBatchMark::Kind::Image ? mark : nullptr;
+    }
+};
+
+struct Option {
+    const char *name;
+    /// What the value looks like in the usage line; empty for an option without one.
+    const char *value;
+    const char *meaning;
+    Problem (*apply)(Parse &parse, const QString &value);
+};
+
+Problem notOne(const QString &value, const char *of)
+{
+    return QStringLiteral("\"%1\" is not %2").arg(value, QString::fromUtf8(of));
+}
+
+template <TSBatchMark::Kind kind>
+Problem addWords(Parse &parse, const QString &value)
+{
+    TSPatternParser::Result words = TSPatternParser::words(value);
+    if (!words.error.isEmpty())
+        return words.error;
+    if (value.isEmpty())
+        return QStringLiteral("the text is empty");
+    TSBatchMark mark;
+    mark.kind = kind;
+    mark.words = std::move(words.values);
+    parse.options.marks.push_back(std::move(mark));
+    return std::nullopt;
+}
+
+Problem addImage(Parse &parse, const QString &value)
+{
+    if (!platform::isDecodableImage(value))
+        return QStringLiteral("\"%1\" is not a picture that can be read").arg(value);
+    TSBatchMark mark;
+    mark.kind = TSBatchMark::Kind::Image;
+    mark.imagePath = QFileInfo(value).absoluteFilePath();
+    parse.options.marks.push_back(std::move(mark));
+    return std::nullopt;
+}
+
+/// Reads a value into a field of the mark given last.
+template <typename T, typename Field>
+Problem setOnMark(TSBatchMark *mark, const std::optional<T> &value, const QString &text, const char *wanted,
+                  Field TSBatchMark::*field)
+{
+    if (!mark)
+        return QStringLiteral("there is no mark before it that it could belong to");
+    if (!value)
+        return notOne(text, wanted);
+    mark->*field = *value;
+    return std::nullopt;
+}
+
+Problem setAnchor(Parse &parse, const QString &value)
+{
+    return setOnMark(parse.lastMark(), TSBatchValues::anchor(value), value, "an anchor",
+                     &TSBatchMark::anchor);
+}
+
+Problem setOffset(Parse &parse, const QString &value)
+{
+    return setOnMark(parse.lastMark(), TSBatchValues::point(value), value, "two numbers",
+                     &TSBatchMark::offset);
+}
+
+Problem setUnit(Parse &parse, const QString &value)
+{
+    return setOnMark(parse.lastMark(), TSBatchValues::unit(value), value, "a unit", &TSBatchMark::unit);
+}
+
+Problem setHeight(Parse &parse, const QString &value)
+{
+    return setOnMark(parse.lastMark(), TSBatchValues::number(value, 0.01, 1000), value,
+                     "a height from 0.01 to 1000", &TSBatchMark::height);
+}
+
+Problem setAngle(Parse &parse, const QString &value)
+{
+    return setOnMark(parse.lastMark(), TSBatchValues::number(value, -36000, 36000), value,
+                     "an angle in degrees", &TSBatchMark::angle);
+}
+
+Problem setOpacity(Parse &parse, const QString &value)
+{
+    return setOnMark(parse.lastMark(), TSBatchValues::number(value, 0, 100), value,
+                     "an opacity from 0 to 100", &TSBatchMark::opacity);
+}
+
+Problem needsText(Parse &parse)
+{
+    if (parse.lastText())
+        return std::nullopt;
+    return parse.lastMark() ? QStringLiteral("the mark before it is a picture, which has no such look")
+                            : QStringLiteral("there is no text before it that it could belong to");
+}
+
+template <typename T, typename Field>
+Problem setOnText(Parse &parse, const std::optional<T> &value, const QString &text, const char *wanted,
+                  Field TSBatchMark::*field)
+{
+    const Problem problem = needsText(parse);
+    return problem ? problem : setOnMark(parse.lastText(), value, text, wanted, field);
+}
+
+Problem setFont(Parse &parse, const QString &value)
+{
+    return setOnText(parse, TSBatchValues::font(value), value, "a font family", &TSBatchMark::font);
+}
+
+Problem setColor(Parse &parse, const QString &value)
+{
+    return setOnText(parse, TSBatchValues::color(value), value, "a colour", &TSBatchMark::color);
+}
+
+Problem setStroke(Parse &parse, const QString &value)
+{
+    return setOnText(parse, TSBatchValues::stroke(value), value, "a stroke", &TSBatchMark::stroke);
+}
+
+Problem setGlow(Parse &parse, const QString &value)
+{
+    return setOnText(parse, TSBatchValues::glow(value), value, "a glow", &TSBatchMark::glow);
+}
+
+Problem setShadow(Parse &parse, const QString &value)
+{
+    return setOnText(parse, TSBatchValues::shadow(value), value, "a shadow", &TSBatchMark::shadow);
+}
+
+Problem setOutput(Parse &parse, const QString &value)
+{
+    if (value.isEmpty())
+        return QStringLiteral("the folder's name is empty");
+    parse.options.output = QDir::cleanPath(QFileInfo(value).absoluteFilePath());
+    return std::nullopt;
+}
+
+Problem setFormat(Parse &parse, const QString &value)
+{
+    const auto type = TSBatchValues::fileType(value);
+    if (!type)
+        return notOne(value, "a format");
+    parse.options.type = *type;
+    parse.options.exportFormat = value;
+    return std::nullopt;
+}
+
+Problem setQuality(Parse &parse, const QString &value)
+{
+    const auto quality = TSBatchValues::wholeNumber(value, 1, 100);
+    if (!quality)
+        return notOne(value, "a whole number from 1 to 100");
+    parse.options.quality = *quality;
+    return std::nullopt;
+}
+
+Problem setResize(Parse &parse, const QString &value)
+{
+    return TSBatchValues::resize(value, parse.options) ? std::nullopt : notOne(value, "a way to resize");
+}
+
+Problem setName(Parse &parse, const QString &value)
+{
+    TSPatternParser::Result pattern = TSPatternParser::namePattern(value);
+    if (!pattern.error.isEmpty())
+        return pattern.error;
+    if (pattern.values.empty())
+        return QStringLiteral("the pattern is empty");
+    parse.options.name = std::move(pattern.values);
+    return std::nullopt;
+}
+
+Problem setConflict(Parse &parse, const QString &value)
+{
+    if (value == u"rename")
+        parse.options.conflict = TSConflictChoice::Rename;
+    else if (value == u"replace")
+        parse.options.conflict = TSConflictChoice::Replace;
+    else if (value == u"stop")
+        parse.options.conflict = TSConflictChoice::Stop;
+    else
+        return notOne(value, "a way to deal with taken names");
+    return std::nullopt;
+}
+
+template <bool TSBatchOptions::*flag>
+Problem setFlag(Parse &parse, const QString &)
+{
+    parse.options.*flag = true;
+    return std::nullopt;
+}
+
+constexpr std::array<Option, 24> table = {
+    {{"text", "STRING",
+      "a text; {NAME} {COUNTER} {MODEL} {EXPOSURE} {FNUMBER} {ISO} {FOCAL} {C_DATE} {M_DATE} {DATE} {TIME} "
+      "are "
+      "wildcards, {{ and }} are braces",
+      addWords<TSBatchMark::Kind::Text>},
+     {"image", "FILE", "a picture", addImage},
+     {"script", "STRING", "a text tiled over the whole photo, --height high",
+      addWords<TSBatchMark::Kind::Script>},
+     {"anchor", "0..8|top-left|top|top-right|right|bottom-right|bottom|bottom-left|left|center",
+      "where the mark is held (bottom-right)", setAnchor},
+     {"offset", "X,Y", "how far it lies from there, to the right and down (-2,-2)", setOffset},
+     {"unit", "percent|pixel", "what offsets are counted in: the photo's size or its pixels (percent)",
+      setUnit},
+     {"height", "PERCENT", "how high it is, of the photo's height (5)", setHeight},
+     {"angle", "DEG", "how far it is turned, clockwise (0)", setAngle},
+     {"opacity", "0..100", "how opaque it is (80)", setOpacity},
+     {"font", "FAMILY[:STYLE]", "the text's font (Helvetica)", setFont},
+     {"color", "#RRGGBB", "its colour (#FFFFFF)", setColor},
+     {"stroke", "W[,#RRGGBB]", "an outline, its width 1 to 100 (black)", setStroke},
+     {"glow", "W,BLUR[,#RRGGBB]", "a glow, its width 0 to 100 and blur 0 to 50 (black)", setGlow},
+     {"shadow", "ANGLE,OFFSET,BLUR,OPACITY[,#RRGGBB]",
+      "a shadow: degrees (45 throws it to the lower right), percent of the font size, pixels 0 to 50, "
+      "percent (black)",
+      setShadow},
+     {"output", "DIR", "the folder to write to", setOutput},
+     {"format", "jpg|png|bmp|tiff", "what to write (jpg); bmp files hold TIFF data", setFormat},
+     {"quality", "1..100", "the quality of a JPEG made from a photo (85)", setQuality},
+     {"resize", "keep|width=N|height=N|percent=N|fit=WxH", "the size of the output (keep)", setResize},
+     {"name", "PATTERN",
+      "its name ({Name}); also {Name:lower} {Name:UPPER} {Number:001} {Created:MM-dd-yyyy} {Modified}",
+      setName},
+     {"conflict", "rename|replace|stop", "what to do when a name is taken (rename)", setConflict},
+     {"json", "", "tell of each photo in a line of JSON", setFlag<&TSBatchOptions::isJson>},
+     {"dry-run", "", "write nothing, tell what would be", setFlag<&TSBatchOptions::isDryRun>},
+     {"help", "", "show this", setFlag<&TSBatchOptions::wantsHelp>},
+     {"version", "", "show the version", setFlag<&TSBatchOptions::wantsVersion>}}};
+
+const char *const generalUsage = "tessaro-batch [options] --output DIR PHOTO... | @LIST";
+
+QString usageOf(const Option &option)
+{
+    const QString name = QStringLiteral("--") + QLatin1String(option.name);
+    return *option.value ? name + u' ' + QLatin1String(option.value) : name;
+}
+
+const Option *findOption(const QString &name)
+{
+    const auto found = std::find_if(table.begin(), table.end(),
+                                    [&](const Option &option) { return name == QLatin1String(option.name); });
+    return found == table.end() ? nullptr : &*found;
+}
+
+/// A list file holds a path a line; blank lines, either line ending and a byte order mark are all right.
+Problem readList(const QString &path, QStringList &photos)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return QStringLiteral("the list %1 cannot be read").arg(path);
+    QByteArray bytes = file.readAll();
+    if (bytes.startsWith("\xEF\xBB\xBF"))
+        bytes.remove(0, 3);
+    for (QByteArray line : bytes.split('\n')) {
+        if (line.endsWith('\r'))
+            line.chop(1);
+        if (!line.trimmed().isEmpty())
+            photos.append(QFile::decodeName(line));
+    }
+    return std::nullopt;
+}
+
+Problem addPhoto(Parse &parse, const QString &argument)
+{
+    if (argument.startsWith(u'@') && !QFileInfo::exists(argument))
+        return readList(argument.mid(1), parse.options.photos);
+    parse.options.photos.append(argument);
+    return std::nullopt;
+}
+
+TSBatchOptionParser::Result failed(const QString &error, const QString &usage)
+{
+    return {{}, error, usage};
+}
+
+Problem checkWhole(const TSBatchOptions &options)
+{
+    if (options.photos.isEmpty())
+        return QStringLiteral("there are no photos");
+    if (options.output.isEmpty() && !options.isDryRun)
+        return QStringLiteral("there is no folder to write to");
+    return std::nullopt;
+}
+
+} // namespace
+
+TSBatchOptionParser::Result TSBatchOptionParser::parse(const QStringList &arguments)
+{
+    Parse parse;
+    parse.options.name = TSPatternParser::namePattern(u"{Name}").values;
+    for (qsizetype i = 0; i < arguments.size(); ++i) {
+        const QString &argument = arguments[i];
+        const bool isOption = argument.startsWith(u'-') && argument.size() > 1;
+        if (parse.optionsHaveEnded || !isOption) {
+            if (const Problem problem = addPhoto(parse, argument))
+                return failed(*problem, QLatin1String(generalUsage));
+            continue;
+        }
+        if (argument == u"--") {
+            parse.optionsHaveEnded = true;
+            continue;
+        }
+        const Option *option =
+            argument.startsWith(u"--") ? findOption(argument.section(u'=', 0, 0).mid(2)) : nullptr;
+        if (!option)
+            return failed(QStringLiteral("there is no option %1").arg(argument.section(u'=', 0, 0)),
+                          QLatin1String(generalUsage));
+        QString value;
+        const bool isJoined = argument.contains(u'=');
+        if (*option->value) {
+            if (!isJoined && ++i >= arguments.size())
+                return failed(QStringLiteral("--%1 needs a value").arg(QLatin1String(option->name)),
+                              usageOf(*option));
+            value = isJoined ? argument.section(u'=', 1) : arguments[i];
+        } else if (isJoined) {
+            return failed(QStringLiteral("--%1 takes no value").arg(QLatin1String(option->name)),
+                          usageOf(*option));
+        }
+        if (const Problem problem = option->apply(parse, value))
+            return failed(QStringLiteral("--%1: %2").arg(QLatin1String(option->name), *problem),
+                          usageOf(*option));
+    }
+    if (parse.options.wantsHelp || parse.options.wantsVersion)
+        return {parse.options, {}, {}};
+    if (const Problem problem = checkWhole(parse.options))
+        return failed(*problem, QLatin1String(generalUsage));
+    return {parse.options, {}, {}};
+}
+
+QString TSBatchOptionParser::help()
+{
+    QString text =
+        QStringLiteral("usage: %1\n\nMarks stack in the order given, the first on top. Placement and look "
+                       "belong to the mark given last.\nA list file holds one path a line.\n\n")
+            .arg(QLatin1String(generalUsage));
+    for (const Option &option : table)
+        text += QStringLiteral("  %1\n      %2\n").arg(usageOf(option), QString::fromUtf8(option.meaning));
+    return text;
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "export/TSExportHost.h"
+#include "export/TSOutputComposer.h"
+
+#include <cstdio>
+#include <optional>
+#include <QElapsedTimer>
+#include <QString>
+
+/// Tells of a batch as it goes: a line of JSON for each photo, or a progress line on a terminal, or plain
+/// lines. What was not written is named on standard error, whatever the form.
+class TSBatchReporter {
+public:
+    enum class Form { Json, Terminal, Plain };
+
+    explicit TSBatchReporter(Form form);
+
+    /// Before the first photo; how many there will be.
+    void begin(qint64 count) { m_count = count; }
+    /// Photos in list order. The places of the marks are those of a dry run.
+    void photo(const QString &source, const TSExportOutcome &outcome,
+               const std::optional<std::vector<TSMarkPlacement>> &marks = std::nullopt);
+    void warning(const QString &text);
+    void end();
+
+    /// Whether every photo so far was written, or would have been.
+    bool isComplete() const { return m_unwritten == 0; }
+
+private:
+    void jsonLine(const QString &source, const TSExportOutcome &outcome,
+                  const std::optional<std::vector<TSMarkPlacement>> &marks);
+    void progressLine();
+    void clearProgressLine();
+    QString summary() const;
+
+    Form m_form;
+    QElapsedTimer m_timer;
+    qint64 m_count = 0;
+    qint64 m_written = 0;
+    qint64 m_skipped = 0;
+    qint64 m_failed = 0;
+    qint64 m_unwritten = 0;
+};

@@ -1,0 +1,240 @@
+#include "batch/TSBatchCommand.h"
+#include "support/Session.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+class CommandTest : public SessionTest {
+protected:
+    CommandTest()
+    {
+        QDir(session.folder.path()).mkdir("out");
+        mark = session.writePng("mark.png", plainImage({40, 20}, Qt::red));
+    }
+
+    /// Runs in a session of its own; the paths of photos are taken below the test's folder.
+    int run(const QStringList &options, const QStringList &photos = {})
+    {
+        TSDataManager data;
+        TSPhotoManager list;
+        TSOverlayManager overlays;
+        TSCacheManager cache;
+        QStringList all = options;
+        for (const QString &name : photos)
+            all.append(session.path(name));
+        testing::internal::CaptureStdout();
+        testing::internal::CaptureStderr();
+        const int status = TSBatchCommand::run(all);
+        output = QByteArray::fromStdString(testing::internal::GetCapturedStdout());
+        errors = QByteArray::fromStdString(testing::internal::GetCapturedStderr());
+        return status;
+    }
+    /// The lines of JSON, the last of which sums up.
+    std::vector<QJsonObject> lines() const
+    {
+        std::vector<QJsonObject> result;
+        for (const QByteArray &line : output.trimmed().split('\n')) {
+            const QJsonDocument document = QJsonDocument::fromJson(line);
+            EXPECT_TRUE(document.isObject()) << line.constData();
+            result.push_back(document.object());
+        }
+        return result;
+    }
+    QString outFolder() const { return session.path("out"); }
+    QStringList files() const
+    {
+        return QDir(outFolder())
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+    }
+
+    QString mark;
+    QByteArray output;
+    QByteArray errors;
+};
+
+std::string text(const QJsonObject &line, const char *key)
+{
+    return line.value(QLatin1String(key)).toString().toStdString();
+}
+
+QRectF frameOf(const QJsonValue &mark)
+{
+    const QJsonObject frame = mark.toObject().value("frame").toObject();
+    const auto number = [&frame](const char *key) { return frame.value(QLatin1String(key)).toDouble(-1); };
+    return {number("x"), number("y"), number("w"), number("h")};
+}
+
+} // namespace
+
+TEST_F(CommandTest, NamesEveryPhotoInTheOrderOfTheList)
+{
+    const QByteArray whole = platform::LazyImage::fromImage(noise({600, 400})).encodeJpeg({90, {1, 1}});
+    session.writeJpeg("good.jpg", plainImage({60, 40}));
+    session.writePng("a%1\"b.png", plainImage({30, 20}));
+    QDir(session.folder.path()).mkdir("folder.jpg");
+    session.write("empty.jpg", {});
+    session.write("text.jpg", "Dear diary");
+    session.write("cut.jpg", whole.first(whole.size() / 2));
+    const QString tiff = session.writeTiff("cut.tiff", plainImage({60, 40}));
+    QFile(tiff).resize(60);
+    const QStringList photos = words("text.jpg good.jpg missing.jpg folder.jpg cut.jpg a%1\"b.png empty.jpg "
+                                     "good.jpg cut.tiff");
+    EXPECT_EQ(run({"--output", outFolder(), "--json"}, photos), TSBatchStatus::SomeNotWritten);
+    const std::tuple<const char *, const char *, const char *, int> expected[] = {
+        {"failed", "", "not a picture", 0},
+        {"written", "good.jpg", "", 60},
+        {"failed", "", "There is no such file.", 0},
+        {"failed", "", "This is a folder", 0},
+        {"failed", "cut.jpg", "breaks off", 600},
+        {"written", "a%1\"b.jpg", "", 30},
+        {"failed", "", "The file is empty.", 0},
+        {"skipped", "", "in the list already", 0},
+        {"failed", "", "", 0}};
+    const auto all = lines();
+    ASSERT_EQ(all.size(), std::size(expected) + 1);
+    for (size_t i = 0; i < std::size(expected); ++i) {
+        const auto &[status, target, reason, width] = expected[i];
+        EXPECT_EQ(all[i].value("index").toInt(), int(i));
+        EXPECT_EQ(text(all[i], "source"), session.path(photos[qsizetype(i)]).toStdString());
+        EXPECT_EQ(text(all[i], "status"), status) << i;
+        EXPECT_EQ(text(all[i], "target"), *target ? outFolder().toStdString() + '/' + target : "");
+        EXPECT_NE(text(all[i], "reason").find(reason), std::string::npos) << text(all[i], "reason");
+        EXPECT_EQ(text(all[i], "reason").empty(), text(all[i], "status") == "written");
+        EXPECT_EQ(all[i].value("width").toInt(), width);
+        EXPECT_EQ(errors.contains(session.path(photos[qsizetype(i)]).toUtf8() + ": "), i != 5) << i;
+    }
+    EXPECT_EQ(all.back().value("written").toInt(), 2);
+    EXPECT_EQ(all.back().value("skipped").toInt(), 1);
+    EXPECT_EQ(all.back().value("failed").toInt(), 6);
+    EXPECT_EQ(files(), words("a%1\"b.jpg good.jpg"));
+}
+
+TEST_F(CommandTest, ExitStatuses)
+{
+    session.writePng("a%1b.png", plainImage({30, 20}));
+    session.writePng("c.png", plainImage({30, 20}));
+    const QStringList both = words("a%1b.png c.png");
+    const QStringList toOut = {"--output", outFolder()};
+    EXPECT_EQ(run(toOut, both), TSBatchStatus::AllWritten);
+    EXPECT_EQ(errors.toStdString(), "");
+    EXPECT_TRUE(output.contains("a%1b.png -> " + outFolder().toUtf8() + "/a%1b.jpg (30 x 20)\n"))
+        << output.constData();
+    EXPECT_EQ(run({}, both), TSBatchStatus::WrongUsage);
+    EXPECT_TRUE(errors.startsWith("tessaro-batch: there is no folder to write to\nusage: tessaro-batch"));
+    EXPECT_EQ(output.toStdString(), "");
+    EXPECT_EQ(run(words("--help")), TSBatchStatus::AllWritten);
+    EXPECT_TRUE(output.contains("--conflict rename|replace|stop"));
+
+    EXPECT_EQ(run(toOut + words("--conflict stop --json"), both), TSBatchStatus::SomeNotWritten);
+    auto all = lines();
+    ASSERT_EQ(all.size(), 3U);
+    EXPECT_NE(text(all[0], "reason").find("is there already"), std::string::npos);
+    EXPECT_EQ(text(all[1], "reason"), "The run was stopped before this photo.");
+    EXPECT_EQ(run(toOut + words("--conflict replace"), both), TSBatchStatus::AllWritten);
+    EXPECT_EQ(files(), words("a%1b.jpg c.jpg"));
+    EXPECT_EQ(run(toOut, both), TSBatchStatus::AllWritten);
+    EXPECT_EQ(files(), words("a%1b.jpg a%1b_001.jpg c.jpg c_001.jpg"));
+
+    EXPECT_EQ(run(toOut + words("--json --resize percent=1000 --resize width=100000"), both),
+              TSBatchStatus::SomeNotWritten);
+    EXPECT_NE(text(lines()[0], "reason").find("100000 × 66667 pixels"), std::string::npos);
+}
+
+TEST_F(CommandTest, NothingOfTheUsersIsReplaced)
+{
+    session.writePng("c.png", plainImage({30, 20}));
+    QDir(session.folder.path()).mkdir("d");
+    session.writePng("d/mark.png", plainImage({30, 20}));
+    session.write("d/c.png", "a kind that cannot be read");
+    QFile::link(session.folder.path(), session.path("way-round"));
+    session.writePng("out/d.png", plainImage({30, 20}));
+    const QStringList options = {"--image", mark, "--format=png", "--conflict=replace", "--json", "--output"};
+    const std::tuple<QString, const char *, const char *> cases[] = {
+        {session.folder.path(), "c.png", "c.png"},
+        {session.path("way-round"), "c.png", "c.png"},
+        {session.folder.path(), "d/mark.png", "mark.png"},
+        {session.path("d"), "c.png d/c.png", "d/c.png"}};
+    for (const auto &[folder, photos, kept] : cases) {
+        const QByteArray before = bytesOf(session.path(kept));
+        EXPECT_EQ(run(options + QStringList{folder}, words(photos)), TSBatchStatus::SomeNotWritten);
+        EXPECT_NE(text(lines()[0], "reason").find("is not written to"), std::string::npos) << kept;
+        EXPECT_EQ(bytesOf(session.path(kept)), before);
+    }
+}
+
+TEST_F(CommandTest, ADryRunTellsWhereEveryMarkWouldStand)
+{
+    session.writePng("a.png", plainImage({400, 300}));
+    session.writePng("b.png", plainImage({300, 600}));
+    const std::tuple<const char *, QPointF, QPointF> places[] = {{"top-left", {0, 0}, {0, 0}},
+                                                                 {"top", {170, 0}, {90, 0}},
+                                                                 {"top-right", {340, 0}, {180, 0}},
+                                                                 {"right", {340, 135}, {180, 270}},
+                                                                 {"bottom-right", {340, 270}, {180, 540}},
+                                                                 {"bottom", {170, 270}, {90, 540}},
+                                                                 {"bottom-left", {0, 270}, {0, 540}},
+                                                                 {"left", {0, 135}, {0, 270}},
+                                                                 {"center", {170, 135}, {90, 270}}};
+    const std::tuple<const char *, const char *, double> runs[] = {
+        {"percent", "keep", 1},        {"pixel", "keep", 1},        {"percent pixel", "keep", 1},
+        {"percent", "percent=50", .5}, {"pixel", "percent=50", .5}, {"pixel percent", "percent=50", .5}};
+    for (const auto &[units, resize, scale] : runs) {
+        QStringList options = words("--dry-run --json --resize");
+        options.append(resize);
+        const QStringList alternating = words(units);
+        for (size_t i = 0; i < std::size(places); ++i)
+            options += QStringList{"--image", mark} + words("--height 10 --offset 2,-4") +
+                       QStringList{"--anchor", QString::fromLatin1(std::get<0>(places[i])), "--unit",
+                                   alternating[qsizetype(i) % alternating.size()]};
+        EXPECT_EQ(run(options, words("a.png b.png")), TSBatchStatus::AllWritten);
+        const auto all = lines();
+        ASSERT_EQ(all.size(), 3U);
+        for (const size_t photo : {0, 1}) {
+            SCOPED_TRACE(units);
+            EXPECT_EQ(text(all[photo], "reason"), "dry run");
+            const QJsonArray marks = all[photo].value("marks").toArray();
+            ASSERT_EQ(size_t(marks.size()), std::size(places));
+            for (size_t i = 0; i < std::size(places); ++i) {
+                const auto &[anchor, onA, onB] = places[i];
+                const bool isPixel = alternating[qsizetype(i) % alternating.size()] == u"pixel";
+                const QPointF offset = isPixel      ? QPointF(2, -4)
+                                       : photo == 0 ? QPointF(8, -12)
+                                                    : QPointF(6, -24);
+                const QPointF origin = (photo == 0 ? onA : onB) + offset;
+                const QSizeF size = photo == 0 ? QSizeF(60, 30) : QSizeF(120, 60);
+                const QRectF frame = frameOf(marks[qsizetype(i)]);
+                expectNear(frame.topLeft(), origin * scale, 1e-4);
+                expectNear(frame.bottomRight(), (origin + QPointF(size.width(), size.height())) * scale,
+                           1e-4);
+                EXPECT_EQ(marks[qsizetype(i)].toObject().value("anchor").toInt(), int(i));
+            }
+        }
+    }
+    EXPECT_TRUE(files().isEmpty());
+}
+
+TEST_F(CommandTest, MarksStackInTheOrderGivenWithTilesBelow)
+{
+    session.writePng("a.png", plainImage({400, 300}));
+    session.writePng("b.png", plainImage({300, 600}));
+    run(QStringList{"--script", "tiles", "--text", "{NAME} {COUNTER}", "--angle=-30", "--image", mark} +
+            words("--dry-run --json"),
+        words("a.png b.png"));
+    const auto all = lines();
+    ASSERT_EQ(all.size(), 3U);
+    const char *named[] = {"a 1", "b 2"};
+    for (const size_t photo : {0, 1}) {
+        const QJsonArray marks = all[photo].value("marks").toArray();
+        ASSERT_EQ(marks.size(), 3);
+        EXPECT_EQ(text(marks[0].toObject(), "type"), "text");
+        EXPECT_EQ(text(marks[0].toObject(), "text"), named[photo]);
+        EXPECT_EQ(marks[0].toObject().value("angle").toDouble(), 330);
+        EXPECT_EQ(text(marks[1].toObject(), "type"), "image");
+        EXPECT_EQ(text(marks[2].toObject(), "type"), "script");
+        expectRect(frameOf(marks[2]), photo == 0 ? QRectF(0, 0, 400, 300) : QRectF(0, 0, 300, 600));
+    }
+}
