@@ -4,9 +4,13 @@
 #include "batch/TSBatchOptionParser.h"
 #include "batch/TSBatchSignals.h"
 #include "naming/TSNamePattern.h"
+#include "overlays/TSGroup.h"
 #include "overlays/TSOverlayManager.h"
+#include "overlays/TSText.h"
 #include "platform/FontChoice.h"
 #include "platform/UserDefaults.h"
+#include "profiles/TSProfileLibrary.h"
+#include "profiles/TSProfileSaver.h"
 #include "session/TSDataManager.h"
 #include "session/TSDefaults.h"
 #include "session/TSFileUtility.h"
@@ -15,6 +19,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QSet>
 #include <unistd.h>
 
 using Status = TSExportOutcome::Status;
@@ -45,12 +50,23 @@ int tell(const QString &text)
     return TSBatchStatus::AllWritten;
 }
 
-void warnOfFonts(const TSBatchOptions &options, TSBatchReporter &reporter)
+void collectFonts(const TSOverlayManager::Overlays &overlays, QSet<QString> &families)
 {
-    for (const TSBatchMark &mark : options.marks)
-        if (mark.kind != TSBatchMark::Kind::Image && !platform::isFontFamilyAvailable(mark.font.family))
-            reporter.warning(QStringLiteral("the font %1 is not installed; another one stands in for it")
-                                 .arg(mark.font.family));
+    for (const auto &overlay : overlays) {
+        if (const auto *group = dynamic_cast<const TSGroup *>(overlay.get()))
+            collectFonts(group->overlaysOfGroup(), families);
+        const auto *text = dynamic_cast<const TSText *>(overlay.get());
+        if (text && text->fontDic().font)
+            families.insert(text->fontDic().font->family);
+    }
+}
+
+int tellProfiles()
+{
+    QString text;
+    for (const TSProfileEntry &profile : TSProfileLibrary::profiles())
+        text += profile.title() + u'\n';
+    return tell(text);
 }
 
 } // namespace
@@ -64,11 +80,12 @@ int TSBatchCommand::run(const QStringList &arguments)
         return tell(TSBatchOptionParser::help());
     if (parsed.options.wantsVersion)
         return tell(QStringLiteral("tessaro-batch %1\n").arg(QCoreApplication::applicationVersion()));
+    if (parsed.options.wantsProfiles)
+        return tellProfiles();
     // The command has settings of its own and leaves the user's alone.
     const auto defaults = platform::UserDefaults::inMemory();
     TSWriteLaunchDefaults();
     TSBatchReporter reporter(formFor(parsed.options));
-    warnOfFonts(parsed.options, reporter);
     return TSBatchCommand(parsed.options, reporter).exportAll();
 }
 
@@ -88,17 +105,55 @@ int TSBatchCommand::exportAll()
 {
     const TSBatchSignals signals(m_run.isCancelled);
     takePhotosIn();
+    const QString unreadable = publishCanvas() ? TSBatchMarkBuilder::build(m_options.marks) : QString();
+    if (!unreadable.isEmpty()) {
+        m_reporter.warning(QStringLiteral("the profile %1 holds no marks that can be read").arg(unreadable));
+        return TSBatchStatus::WrongUsage;
+    }
+    warnOfFonts();
+    const bool isSaved = saveProfile();
+    const bool isComplete = !isExportWanted() || writePhotos();
+    if (m_run.isCancelled)
+        return TSBatchStatus::Interrupted;
+    return isSaved && isComplete ? TSBatchStatus::AllWritten : TSBatchStatus::SomeNotWritten;
+}
+
+/// A command that saves the layout and names no folder wants that alone.
+bool TSBatchCommand::isExportWanted() const
+{
+    return !m_options.output.isEmpty() || m_options.isDryRun;
+}
+
+bool TSBatchCommand::writePhotos()
+{
     m_reporter.begin(qint64(m_entries.size()));
-    if (publishCanvas())
-        TSBatchMarkBuilder::build(m_options.marks);
     requestOutput();
     nameOutputs();
     m_run.savePhotos(outputFolder());
     tellRest();
     m_reporter.end();
-    if (m_run.isCancelled)
-        return TSBatchStatus::Interrupted;
-    return m_reporter.isComplete() ? TSBatchStatus::AllWritten : TSBatchStatus::SomeNotWritten;
+    return m_reporter.isComplete();
+}
+
+bool TSBatchCommand::saveProfile()
+{
+    if (m_options.savedProfile.isEmpty() || m_options.isDryRun || m_run.isCancelled)
+        return true;
+    const QString failure = TSProfileSaver::saveProfile(m_options.savedProfile);
+    if (!failure.isEmpty())
+        m_reporter.warning(
+            QStringLiteral("the profile %1 was not saved: %2").arg(m_options.savedProfile, failure));
+    return failure.isEmpty();
+}
+
+void TSBatchCommand::warnOfFonts()
+{
+    QSet<QString> families;
+    collectFonts(TSOverlayManager::overlayManager()->overlays(), families);
+    for (const QString &family : families)
+        if (!platform::isFontFamilyAvailable(family))
+            m_reporter.warning(
+                QStringLiteral("the font %1 is not installed; another one stands in for it").arg(family));
 }
 
 void TSBatchCommand::takePhotosIn()

@@ -31,6 +31,10 @@ private:
     TSBatchCommand(const TSBatchOptions &options, TSBatchReporter &reporter);
 
     int exportAll();
+    bool isExportWanted() const;
+    bool writePhotos();
+    bool saveProfile();
+    void warnOfFonts();
     void takePhotosIn();
     QString outputFolder() const;
     bool publishCanvas();

@@ -4,6 +4,8 @@
 #include "overlays/TSImage.h"
 #include "overlays/TSOverlayManager.h"
 #include "overlays/TSText.h"
+#include "platform/Folders.h"
+#include "profiles/TSProfileApplier.h"
 #include "session/TSCacheManager.h"
 #include "session/TSDataManager.h"
 #include "session/TSPhotoManager.h"
@@ -11,6 +13,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <QFileInfo>
 
 namespace {
 
@@ -66,28 +69,37 @@ QSizeF naturalSize(const TSOverlay &overlay)
 
 } // namespace
 
-void TSBatchMarkBuilder::build(const std::vector<TSBatchMark> &marks)
+QString TSBatchMarkBuilder::build(const std::vector<TSBatchMark> &marks)
 {
     TSDataManager *data = TSDataManager::dataManager();
     TSPhotoManager *photos = TSPhotoManager::photoManager();
     const auto shown = photos->photoAtIndex(photos->selectedPhoto());
     if (!shown)
-        return;
+        return {};
     const bool onlyPixels =
         !marks.empty() && std::all_of(marks.begin(), marks.end(), [](const TSBatchMark &mark) {
             return mark.unit == TSOffsetUnit::Pixel;
         });
     data->pUnit = onlyPixels ? TSOffsetUnit::Pixel : TSOffsetUnit::Percentage;
-    TSOverlayManager *manager = TSOverlayManager::overlayManager();
     for (auto mark = marks.rbegin(); mark != marks.rend(); ++mark) {
-        const auto overlay = newOverlay(*mark, *shown);
-        place(*overlay, *mark);
-        if (mark->kind == TSBatchMark::Kind::Script)
-            becomeScript(static_cast<TSText &>(*overlay), *mark);
-        // Tiles lie below all else.
-        manager->insertOverlay(overlay, overlay->isScript() ? manager->notScriptsCount() : 0);
-        writeRows(*overlay, *mark);
+        if (mark->kind != TSBatchMark::Kind::Profile)
+            add(*mark, *shown);
+        else if (!TSProfileApplier().performProfile(mark->profilePath))
+            return mark->profilePath;
     }
+    return {};
+}
+
+void TSBatchMarkBuilder::add(const TSBatchMark &mark, const TSPhoto &shown)
+{
+    TSOverlayManager *manager = TSOverlayManager::overlayManager();
+    const auto overlay = newOverlay(mark, shown);
+    place(*overlay, mark);
+    if (mark.kind == TSBatchMark::Kind::Script)
+        becomeScript(static_cast<TSText &>(*overlay), mark);
+    // Tiles lie below all else.
+    manager->insertOverlay(overlay, overlay->isScript() ? manager->notScriptsCount() : 0);
+    writeRows(*overlay, mark);
 }
 
 std::shared_ptr<TSOverlay> TSBatchMarkBuilder::newOverlay(const TSBatchMark &mark, const TSPhoto &shown)
@@ -97,8 +109,12 @@ std::shared_ptr<TSOverlay> TSBatchMarkBuilder::newOverlay(const TSBatchMark &mar
         overlay = newText(mark, shown);
     } else {
         auto image = std::make_shared<TSImage>(mark.imagePath);
-        image->setIsFromFinder(true);
-        image->setOldPath(mark.imagePath);
+        // A sticker of the program's own is found by its name wherever the program lies.
+        const bool isSticker =
+            QFileInfo(mark.imagePath).path() == platform::resourceFolder() + QStringLiteral("/Stickers");
+        image->setIsFromFinder(!isSticker);
+        if (!isSticker)
+            image->setOldPath(mark.imagePath);
         overlay = image;
     }
     overlay->setAngle(radians(mark.angle));

@@ -12,10 +12,12 @@ class TSText;
 /// photos in the list, one of them selected and its canvas published.
 class TSBatchMarkBuilder {
 public:
-    /// Fills the overlay manager, the first mark on top, and sets the session's unit.
-    static void build(const std::vector<TSBatchMark> &marks);
+    /// Fills the overlay manager, the first mark on top, and sets the session's unit. Answers the path of a
+    /// profile that no mark could be read from, or nothing.
+    static QString build(const std::vector<TSBatchMark> &marks);
 
 private:
+    static void add(const TSBatchMark &mark, const TSPhoto &shown);
     static std::shared_ptr<TSOverlay> newOverlay(const TSBatchMark &mark, const TSPhoto &shown);
     static void place(TSOverlay &overlay, const TSBatchMark &mark);
     static void becomeScript(TSText &text, const TSBatchMark &mark);

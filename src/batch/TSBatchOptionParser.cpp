@@ -5,6 +5,7 @@
 #include "naming/TSPatternParser.h"
 #include "platform/FontChoice.h"
 #include "platform/ImageFile.h"
+#include "profiles/TSProfileLibrary.h"
 
 #include <array>
 #include <functional>
@@ -22,10 +23,11 @@ struct Parse {
     bool optionsHaveEnded = false;
 
     TSBatchMark *lastMark() { return options.marks.empty() ? nullptr : &options.marks.back(); }
+    bool lastIs(TSBatchMark::Kind kind) { return lastMark() && lastMark()->kind == kind; }
     TSBatchMark *lastText()
     {
-        TSBatchMark *mark = lastMark();
-        return mark && mark->kind != TSBatchMark::Kind::Image ? mark : nullptr;
+        const bool isText = lastIs(TSBatchMark::Kind::Text) || lastIs(TSBatchMark::Kind::Script);
+        return isText ? lastMark() : nullptr;
     }
 };
 
@@ -68,57 +70,68 @@ Problem addImage(Parse &parse, const QString &value)
     return std::nullopt;
 }
 
+Problem addProfile(Parse &parse, const QString &value)
+{
+    TSBatchMark mark;
+    mark.kind = TSBatchMark::Kind::Profile;
+    mark.profilePath = TSProfileLibrary::find(value);
+    if (mark.profilePath.isEmpty())
+        return QStringLiteral("there is no profile \"%1\"; --list-profiles shows which there are").arg(value);
+    parse.options.marks.push_back(std::move(mark));
+    return std::nullopt;
+}
+
 /// Reads a value into a field of the mark given last.
 template <typename T, typename Field>
-Problem setOnMark(TSBatchMark *mark, const std::optional<T> &value, const QString &text, const char *wanted,
+Problem setOnMark(Parse &parse, const std::optional<T> &value, const QString &text, const char *wanted,
                   Field TSBatchMark::*field)
 {
-    if (!mark)
+    if (!parse.lastMark())
         return QStringLiteral("there is no mark before it that it could belong to");
+    if (parse.lastIs(TSBatchMark::Kind::Profile))
+        return QStringLiteral("what stands before it is a profile, whose marks have their places and looks");
     if (!value)
         return notOne(text, wanted);
-    mark->*field = *value;
+    parse.lastMark()->*field = *value;
     return std::nullopt;
 }
 
 Problem setAnchor(Parse &parse, const QString &value)
 {
-    return setOnMark(parse.lastMark(), TSBatchValues::anchor(value), value, "an anchor",
-                     &TSBatchMark::anchor);
+    return setOnMark(parse, TSBatchValues::anchor(value), value, "an anchor", &TSBatchMark::anchor);
 }
 
 Problem setOffset(Parse &parse, const QString &value)
 {
-    return setOnMark(parse.lastMark(), TSBatchValues::point(value), value, "two numbers",
-                     &TSBatchMark::offset);
+    return setOnMark(parse, TSBatchValues::point(value), value, "two numbers", &TSBatchMark::offset);
 }
 
 Problem setUnit(Parse &parse, const QString &value)
 {
-    return setOnMark(parse.lastMark(), TSBatchValues::unit(value), value, "a unit", &TSBatchMark::unit);
+    return setOnMark(parse, TSBatchValues::unit(value), value, "a unit", &TSBatchMark::unit);
 }
 
 Problem setHeight(Parse &parse, const QString &value)
 {
-    return setOnMark(parse.lastMark(), TSBatchValues::number(value, 0.01, 1000), value,
-                     "a height from 0.01 to 1000", &TSBatchMark::height);
+    return setOnMark(parse, TSBatchValues::number(value, 0.01, 1000), value, "a height from 0.01 to 1000",
+                     &TSBatchMark::height);
 }
 
 Problem setAngle(Parse &parse, const QString &value)
 {
-    return setOnMark(parse.lastMark(), TSBatchValues::number(value, -36000, 36000), value,
-                     "an angle in degrees", &TSBatchMark::angle);
+    return setOnMark(parse, TSBatchValues::number(value, -36000, 36000), value, "an angle in degrees",
+                     &TSBatchMark::angle);
 }
 
 Problem setOpacity(Parse &parse, const QString &value)
 {
-    return setOnMark(parse.lastMark(), TSBatchValues::number(value, 0, 100), value,
-                     "an opacity from 0 to 100", &TSBatchMark::opacity);
+    return setOnMark(parse, TSBatchValues::number(value, 0, 100), value, "an opacity from 0 to 100",
+                     &TSBatchMark::opacity);
 }
 
 Problem needsText(Parse &parse)
 {
-    if (parse.lastText())
+    if (parse.lastText() || parse.lastIs(TSBatchMark::Kind::Profile))
         return std::nullopt;
     return parse.lastMark() ? QStringLiteral("the mark before it is a picture, which has no such look")
                             : QStringLiteral("there is no text before it that it could belong to");
@@ -129,7 +142,7 @@ Problem setOnText(Parse &parse, const std::optional<T> &value, const QString &te
                   Field TSBatchMark::*field)
 {
     const Problem problem = needsText(parse);
-    return problem ? problem : setOnMark(parse.lastText(), value, text, wanted, field);
+    return problem ? problem : setOnMark(parse, value, text, wanted, field);
 }
 
 Problem setFont(Parse &parse, const QString &value)
@@ -200,6 +213,15 @@ Problem setName(Parse &parse, const QString &value)
     return std::nullopt;
 }
 
+Problem setSavedProfile(Parse &parse, const QString &value)
+{
+    const QString problem = TSProfileLibrary::problemWithName(value);
+    if (!problem.isEmpty())
+        return problem;
+    parse.options.savedProfile = value;
+    return std::nullopt;
+}
+
 Problem setConflict(Parse &parse, const QString &value)
 {
     if (value == u"rename")
@@ -220,7 +242,7 @@ Problem setFlag(Parse &parse, const QString &)
     return std::nullopt;
 }
 
-constexpr std::array<Option, 24> table = {
+constexpr std::array<Option, 27> table = {
     {{"text", "STRING",
       "a text; {NAME} {COUNTER} {MODEL} {EXPOSURE} {FNUMBER} {ISO} {FOCAL} {C_DATE} {M_DATE} {DATE} {TIME} "
       "are "
@@ -229,6 +251,7 @@ constexpr std::array<Option, 24> table = {
      {"image", "FILE", "a picture", addImage},
      {"script", "STRING", "a text tiled over the whole photo, --height high",
       addWords<TSBatchMark::Kind::Script>},
+     {"profile", "DIR.tspf|GROUP/NAME", "the marks of a profile, in their places", addProfile},
      {"anchor", "0..8|top-left|top|top-right|right|bottom-right|bottom|bottom-left|left|center",
       "where the mark is held (bottom-right)", setAnchor},
      {"offset", "X,Y", "how far it lies from there, to the right and down (-2,-2)", setOffset},
@@ -253,6 +276,9 @@ constexpr std::array<Option, 24> table = {
       "its name ({Name}); also {Name:lower} {Name:UPPER} {Number:001} {Created:MM-dd-yyyy} {Modified}",
       setName},
      {"conflict", "rename|replace|stop", "what to do when a name is taken (rename)", setConflict},
+     {"save-profile", "NAME", "save the marks as a profile; without --output that is all that is done",
+      setSavedProfile},
+     {"list-profiles", "", "show the profiles there are", setFlag<&TSBatchOptions::wantsProfiles>},
      {"json", "", "tell of each photo in a line of JSON", setFlag<&TSBatchOptions::isJson>},
      {"dry-run", "", "write nothing, tell what would be", setFlag<&TSBatchOptions::isDryRun>},
      {"help", "", "show this", setFlag<&TSBatchOptions::wantsHelp>},
@@ -308,7 +334,9 @@ Problem checkWhole(const TSBatchOptions &options)
 {
     if (options.photos.isEmpty())
         return QStringLiteral("there are no photos");
-    if (options.output.isEmpty() && !options.isDryRun)
+    if (!options.savedProfile.isEmpty() && options.marks.empty())
+        return QStringLiteral("there are no marks to save");
+    if (options.output.isEmpty() && !options.isDryRun && options.savedProfile.isEmpty())
         return QStringLiteral("there is no folder to write to");
     return std::nullopt;
 }
@@ -351,7 +379,7 @@ TSBatchOptionParser::Result TSBatchOptionParser::parse(const QStringList &argume
             return failed(QStringLiteral("--%1: %2").arg(QLatin1String(option->name), *problem),
                           usageOf(*option));
     }
-    if (parse.options.wantsHelp || parse.options.wantsVersion)
+    if (parse.options.wantsHelp || parse.options.wantsVersion || parse.options.wantsProfiles)
         return {parse.options, {}, {}};
     if (const Problem problem = checkWhole(parse.options))
         return failed(*problem, QLatin1String(generalUsage));

@@ -30,13 +30,14 @@ struct TSBatchShadow {
     platform::Color color{0, 0, 0, 0.5};
 };
 
-/// One mark as the command line asks for it.
+/// One mark as the command line asks for it, or a profile: a block of marks with places of their own.
 struct TSBatchMark {
-    enum class Kind { Text, Script, Image };
+    enum class Kind { Text, Script, Image, Profile };
 
     Kind kind = Kind::Text;
     std::vector<TSTokenValue> words;
     QString imagePath;
+    QString profilePath;
 
     unsigned anchor = TSPositionCode::RightBottom;
     /// In percent of the canvas or in pixels of the photo.
@@ -69,11 +70,14 @@ struct TSBatchOptions {
     double outputHeight = 0;
     double percentage = 0;
     std::vector<TSTokenValue> name;
+    /// The name to save the marks under, or nothing.
+    QString savedProfile;
     /// A `TSConflictChoice`.
     int conflict = 1;
 
     bool isJson = false;
     bool isDryRun = false;
+    bool wantsProfiles = false;
     bool wantsHelp = false;
     bool wantsVersion = false;
 };

@@ -1,4 +1,5 @@
 #include "batch/TSBatchCommand.h"
+#include "platform/Folders.h"
 #include "support/Session.h"
 
 #include <QDir>
@@ -237,4 +238,47 @@ TEST_F(CommandTest, MarksStackInTheOrderGivenWithTilesBelow)
         EXPECT_EQ(text(marks[2].toObject(), "type"), "script");
         expectRect(frameOf(marks[2]), photo == 0 ? QRectF(0, 0, 400, 300) : QRectF(0, 0, 300, 600));
     }
+}
+
+/// The layout is taken over from one command to another, on photos of another shape.
+TEST_F(CommandTest, AProfileStandsForTheMarksItWasSavedFrom)
+{
+    session.writePng("a.png", plainImage({400, 300}));
+    session.writePng("b.png", plainImage({300, 600}));
+    const QStringList marks = QStringList{"--text", "{NAME}", "--anchor=top", "--offset=1,2", "--angle=20"} +
+                              QStringList{"--image", mark, "--script", "tiles", "--opacity=30"};
+    const QStringList told = words("--dry-run --json");
+    EXPECT_EQ(run(marks + words("--save-profile Mine"), {"a.png"}), TSBatchStatus::AllWritten);
+    EXPECT_EQ(output, "");
+    EXPECT_EQ(run(words("--list-profiles")), TSBatchStatus::AllWritten);
+    EXPECT_TRUE(output.startsWith("My Profiles/Mine\n"));
+
+    run(marks + told, words("a.png b.png"));
+    const auto expected = lines();
+    EXPECT_EQ(run(words("--profile Mine") + told, words("b.png a.png")), TSBatchStatus::AllWritten);
+    const auto all = lines();
+    for (const size_t photo : {0, 1}) {
+        const QJsonArray here = all[photo].value("marks").toArray();
+        const QJsonArray there = expected[1 - photo].value("marks").toArray();
+        ASSERT_EQ(here.size(), 3);
+        for (int i = 0; i < 3; ++i) {
+            EXPECT_EQ(text(here[i].toObject(), "text"), text(there[i].toObject(), "text"));
+            EXPECT_NEAR(frameOf(here[i]).x(), frameOf(there[i]).x(), 0.01);
+            EXPECT_NEAR(frameOf(here[i]).bottom(), frameOf(there[i]).bottom(), 0.01);
+        }
+    }
+    // With a mark of the line's own on top, and one below that is not among the tiles.
+    run(QStringList{"--text", "over", "--profile", "Mine", "--text", "under"} + told, {"a.png"});
+    QStringList stack;
+    for (const QJsonValue &each : lines().front().value("marks").toArray())
+        stack.append(each.toObject().value("text").toString());
+    EXPECT_EQ(stack, (QStringList{"over", "a", "", "under", "tiles"}));
+
+    QFile archive(platform::applicationSupportFolder() + "/Tessaro/My Profiles/Mine.tspf/info.xml");
+    ASSERT_TRUE(archive.open(QIODevice::WriteOnly));
+    archive.close();
+    EXPECT_EQ(run(words("--profile Mine --output ") + QStringList{outFolder()}, {"a.png"}),
+              TSBatchStatus::WrongUsage);
+    EXPECT_TRUE(errors.contains("holds no marks that can be read"));
+    EXPECT_TRUE(files().isEmpty());
 }

@@ -1,7 +1,8 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <QFile>
 #include <QGuiApplication>
-#include <QStandardPaths>
+#include <QTemporaryDir>
 
 /// Fonts need an application object, and the tests share one; the platform without screens serves them
 /// everywhere.
@@ -11,7 +12,10 @@ int main(int argc, char **argv)
     // Dates and months in the tests are those of one language and zone, whatever the machine speaks.
     qputenv("LC_ALL", "C.UTF-8");
     qputenv("TZ", "UTC");
-    QStandardPaths::setTestModeEnabled(true);
+    // What a test writes as the user's own is gone with it.
+    const QTemporaryDir home;
+    for (const char *folder : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"})
+        qputenv(folder, QFile::encodeName(home.filePath(QString::fromLatin1(folder))));
     QGuiApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

@@ -1,0 +1,278 @@
+#include "naming/TSNameToken.h"
+#include "overlays/TSGroup.h"
+#include "overlays/TSImage.h"
+#include "overlays/TSText.h"
+#include "platform/Folders.h"
+#include "platform/KeyedArchive.h"
+#include "profiles/TSProfileApplier.h"
+#include "profiles/TSProfileLibrary.h"
+#include "profiles/TSProfileSaver.h"
+#include "support/Session.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace {
+
+class ProfileTest : public SessionTest {
+protected:
+    ProfileTest()
+    {
+        qputenv("XDG_DATA_HOME", QFile::encodeName(session.path("home")));
+        session.addPhotos(1, {800, 600});
+        session.photos.setSelectedPhoto(0);
+        session.setCanvas({0, 0, 800, 600});
+    }
+
+    /// A mark whose place has been measured, with its row; on top of the others.
+    template <typename T>
+    std::shared_ptr<T> add(std::shared_ptr<T> overlay, const QRectF &frame)
+    {
+        overlay->setFrame(frame);
+        overlay->updateAlignmentAndRatio();
+        overlay->updateOffsetPixel();
+        overlay->appendRow();
+        session.overlays.addOverlay(overlay);
+        return overlay;
+    }
+    std::shared_ptr<TSImage> addPicture(const QString &path, const QRectF &frame = {10, 10, 100, 50})
+    {
+        auto image = add(std::make_shared<TSImage>(path), frame);
+        image->setIsFromFinder(true);
+        return image;
+    }
+    std::shared_ptr<TSText> addWildcard(const QString &name, const QRectF &frame = {10, 500, 100, 60})
+    {
+        auto token = std::make_shared<TSNameToken>();
+        token->setName(name);
+        auto text = std::make_shared<TSText>("x");
+        text->setTextArray({TSTokenValue(token)});
+        return add(text, frame);
+    }
+    QString package(const QString &name) const { return TSProfileLibrary::userPackage(name); }
+    QStringList filesOf(const QString &folder) const
+    {
+        return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+    }
+    QColor pixelOf(const QString &path) const
+    {
+        const auto picture = platform::Picture::load(path);
+        return picture ? picture->imageOfSize(picture->size().toSize()).pixelColor(1, 1) : QColor();
+    }
+};
+
+QImage plain(const QSize &size, const QColor &color)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(color);
+    return image;
+}
+
+void writeOver(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+struct Asked : TSProfileApplierDelegate {
+    Answer answer;
+    QStringList told;
+    Answer askToCoverWatermarks() override
+    {
+        told.append("asked");
+        return answer;
+    }
+    void clearSelection() override { told.append("cleared"); }
+    void profileWasApplied() override { told.append("applied"); }
+    void recordProfileData(const QString &group, const QString &name) override
+    {
+        told.append(group + u'/' + name);
+    }
+};
+
+} // namespace
+
+TEST_F(ProfileTest, APackageHoldsArchivePictureAndTheUsersPictures)
+{
+    const QString logo = session.writePng("logo.png", plain({40, 20}, {0, 200, 0, 128}));
+    const auto first = addPicture(logo), second = addPicture(logo);
+    const auto member = std::make_shared<TSImage>(logo);
+    member->setIsFromFinder(true);
+    member->setImageName("as it was");
+    member->setFrame({0, 0, 10, 10});
+    add(TSGroup::groupOverlayWithOverlays({member, std::make_shared<TSText>("in a group")}),
+        {300, 300, 100, 50});
+    EXPECT_EQ(TSProfileSaver::saveProfile("Two logos"), "");
+
+    const QString saved = package("Two logos");
+    EXPECT_EQ(filesOf(saved), (QStringList{"Stickers", "Two logos.jpg", "info.xml"}));
+    EXPECT_EQ(filesOf(saved + "/Stickers"), (QStringList{"Stickers_0.png", "Stickers_1.png"}));
+    EXPECT_EQ(QImage(saved + "/Two logos.jpg").size(), QSize(400, 300));
+    EXPECT_TRUE(bytesOf(saved + "/Stickers/Stickers_0.png").startsWith(QByteArray("II*\0", 4)));
+    EXPECT_EQ(pixelOf(saved + "/Stickers/Stickers_1.png"), pixelOf(logo));
+    EXPECT_EQ(second->imageName(), saved + "/Stickers/Stickers_0.png");
+    EXPECT_EQ(first->imageName(), saved + "/Stickers/Stickers_1.png");
+    EXPECT_EQ(member->imageName(), "as it was");
+    EXPECT_EQ(filesOf(TSProfileLibrary::userFolder()), QStringList{"Two logos.tspf"});
+    const auto root = platform::unarchiveFile(saved + "/info.xml", {});
+    ASSERT_TRUE(root);
+}
+
+/// A photo's own name is one letter here; the wildcard's is wide.
+TEST_F(ProfileTest, ThePictureShowsTheNamesOfWildcards)
+{
+    const auto text = addWildcard("FILE_NAME", {10, 200, 100, 200});
+    session.photos.photoAtIndex(0)->path = "/photos/i.jpg";
+    text->updateTextString(*session.photos.photoAtIndex(0), text->textArray(), false);
+    EXPECT_EQ(TSProfileSaver::saveProfile("Name"), "");
+    text->updateText("i");
+    text->setTextArray({TSTokenValue("i")});
+    EXPECT_EQ(TSProfileSaver::saveProfile("Letter"), "");
+
+    const QImage named = QImage(package("Name") + "/Name.jpg").convertToFormat(QImage::Format_RGB32);
+    const QImage letter = QImage(package("Letter") + "/Letter.jpg").convertToFormat(QImage::Format_RGB32);
+    int widest = 0;
+    for (int y = 0; y < 300; ++y)
+        for (int x = 0; x < 400; ++x)
+            if (std::abs(qGreen(named.pixel(x, y)) - qGreen(letter.pixel(x, y))) > 40)
+                widest = std::max(widest, x);
+    EXPECT_GT(widest, 200);
+    EXPECT_EQ(session.data.canvasFrame, QRectF(0, 0, 800, 600));
+}
+
+TEST_F(ProfileTest, ALayoutKeepsItsPlaceOnAnotherCanvasAndInAnotherFolder)
+{
+    addPicture(session.writePng("logo.png", plain({40, 20}, Qt::red)), {700, 10, 80, 40});
+    const auto tiles = std::make_shared<TSText>("PROOF");
+    tiles->setTextType(TSTextType::Script);
+    session.overlays.insertOverlay(tiles, 1);
+    ASSERT_EQ(TSProfileSaver::saveProfile("Corner"), "");
+    // Renamed, and brought to where it was never written.
+    const QString moved = session.path("Sent to a friend.tspf");
+    ASSERT_TRUE(QDir().rename(package("Corner"), moved));
+
+    session.overlays.removeAllOverlay();
+    session.addPhotos(2, {1600, 1200});
+    session.setCanvas({0, 0, 400, 300}, 0.5);
+    TSSetBatchControlOverlay(false);
+    ASSERT_TRUE(TSProfileApplier().applyProfile(moved));
+    ASSERT_EQ(session.overlays.overlayCount(), 2);
+    const auto image = std::dynamic_pointer_cast<TSImage>(session.overlays.overlayAtIndex(0));
+    ASSERT_TRUE(image);
+    expectRect(image->frame(), 350, 5, 40, 20);
+    EXPECT_EQ(image->ratioOfFrameByAlignmentArray.size(), 3u);
+    EXPECT_EQ(image->imagePath(), moved + "/Stickers/Stickers_0.png");
+    EXPECT_TRUE(session.overlays.overlayAtIndex(1)->isScript());
+    EXPECT_TRUE(TSIsBatchControlOverlay());
+
+    // Beside marks that are there already: the picture on top, the tiles below all others.
+    const auto former = session.overlays.overlays();
+    ASSERT_TRUE(TSProfileApplier().performProfile(moved));
+    EXPECT_EQ(session.overlays.overlayCount(), 4);
+    EXPECT_EQ(session.overlays.indexOfOverlay(former[0]), 1);
+    EXPECT_TRUE(session.overlays.overlayAtIndex(2)->isScript());
+}
+
+/// The pictures of the marks lie in the very package that is replaced, under names that change hands.
+TEST_F(ProfileTest, SavingOverAPackageKeepsItsPictures)
+{
+    addPicture(session.writePng("red.png", plain({8, 8}, Qt::red)));
+    addPicture(session.writePng("blue.png", plain({8, 8}, Qt::blue)));
+    ASSERT_EQ(TSProfileSaver::saveProfile("Pair"), "");
+    ASSERT_TRUE(TSProfileApplier().applyProfile(package("Pair")));
+    session.overlays.upOverlay({session.overlays.overlayAtIndex(1)});
+    ASSERT_EQ(TSProfileSaver::saveProfile("Pair"), "");
+    EXPECT_EQ(pixelOf(package("Pair") + "/Stickers/Stickers_0.png"), QColor(Qt::red));
+    EXPECT_EQ(pixelOf(package("Pair") + "/Stickers/Stickers_1.png"), QColor(Qt::blue));
+    EXPECT_EQ(pixelOf(session.overlays.images()[0]->imagePath()), QColor(Qt::red));
+    EXPECT_EQ(filesOf(TSProfileLibrary::userFolder()), QStringList{"Pair.tspf"});
+}
+
+TEST_F(ProfileTest, WhatCannotBeSavedLeavesNothing)
+{
+    const auto text = addWildcard("EXIF_MODEL");
+    for (const char *name : {"", "  ", "a/b", ".hidden", "../up"})
+        EXPECT_NE(TSProfileSaver::saveProfile(name), "") << name;
+    EXPECT_NE(TSProfileSaver::saveProfile(QString(300, u'n')), "");
+    EXPECT_EQ(filesOf(TSProfileLibrary::userFolder()), QStringList());
+
+    ASSERT_EQ(TSProfileSaver::saveProfile("Kept"), "");
+    const QByteArray archive = bytesOf(package("Kept") + "/info.xml");
+    session.photos.setSelectedPhoto(-1);
+    EXPECT_NE(TSProfileSaver::saveProfile("Kept"), "");
+    EXPECT_EQ(bytesOf(package("Kept") + "/info.xml"), archive);
+    EXPECT_EQ(filesOf(TSProfileLibrary::userFolder()), QStringList{"Kept.tspf"});
+
+    session.photos.setSelectedPhoto(0);
+    QDir(session.path("home")).removeRecursively();
+    session.write("home", "a file stands where the folder would");
+    EXPECT_NE(TSProfileSaver::saveProfile("Nowhere"), "");
+}
+
+TEST_F(ProfileTest, ApplyingAsksOnceUnlessToldNotTo)
+{
+    addWildcard("EXIF_MODEL");
+    ASSERT_EQ(TSProfileSaver::saveProfile("Model"), "");
+    const QString tip = "ShowApplyProfileTip";
+    struct Case {
+        bool isTipOn, hasMarks;
+        TSProfileApplierDelegate::Answer answer;
+        QStringList told;
+        bool isTipLeft;
+        qint64 marks;
+    };
+    const QStringList applied = {"cleared", "applied"};
+    const Case cases[] = {{true, true, {true, false}, QStringList{"asked"} + applied, true, 1},
+                          {true, true, {true, true}, QStringList{"asked"} + applied, false, 1},
+                          {true, true, {false, false}, {"asked"}, true, 2},
+                          {true, true, {false, true}, {"asked"}, false, 2},
+                          {false, true, {false, false}, applied, false, 1},
+                          {true, false, {false, false}, applied, true, 1}};
+    for (const Case &each : cases) {
+        session.defaults->setBool(tip, each.isTipOn);
+        session.overlays.removeAllOverlay();
+        for (int i = 0; each.hasMarks && i < 2; ++i)
+            addWildcard("FILE_NAME");
+        Asked asked;
+        asked.answer = each.answer;
+        TSProfileApplier(&asked).applyProfile(package("Model"));
+        EXPECT_EQ(asked.told, each.told);
+        EXPECT_EQ(session.defaults->boolForKey(tip), each.isTipLeft);
+        EXPECT_EQ(session.overlays.overlayCount(), each.marks);
+    }
+}
+
+TEST_F(ProfileTest, WhatIsNoArchiveAddsNothing)
+{
+    addWildcard("EXIF_MODEL");
+    ASSERT_EQ(TSProfileSaver::saveProfile("Whole"), "");
+    const QByteArray whole = bytesOf(package("Whole") + "/info.xml");
+    const QString archive = package("Whole") + "/info.xml";
+    for (const QByteArray &bytes : {QByteArray(), QByteArray("bplist00"), whole.first(whole.size() / 2),
+                                    platform::archiveRootObject(QString("no dictionary"))}) {
+        writeOver(archive, bytes);
+        session.overlays.removeAllOverlay();
+        EXPECT_FALSE(TSProfileApplier().applyProfile(package("Whole")));
+        EXPECT_EQ(session.overlays.overlayCount(), 0);
+    }
+    EXPECT_FALSE(TSProfileApplier().applyProfile(session.path("nothing.tspf")));
+}
+
+TEST_F(ProfileTest, ProfilesAreFoundByPathTitleAndName)
+{
+    addWildcard("EXIF_MODEL");
+    for (const char *name : {"Take 10", "Take 9", "a.b"})
+        ASSERT_EQ(TSProfileSaver::saveProfile(name), "");
+    const auto all = TSProfileLibrary::profiles();
+    ASSERT_GE(all.size(), 3u);
+    EXPECT_EQ(all[0].title(), "My Profiles/a.b");
+    EXPECT_EQ(all[1].name, "Take 9");
+    EXPECT_EQ(all[2].name, "Take 10");
+    EXPECT_EQ(TSProfileLibrary::picturePath(package("a.b")), package("a.b") + "/a.b.jpg");
+    for (const QString &text :
+         {package("Take 9"), package("Take 9") + u'/', QString("My Profiles/Take 9"), QString("Take 9")})
+        EXPECT_EQ(TSProfileLibrary::find(text), package("Take 9"));
+    for (const char *text : {"", "Take", "Text/Take 9", "/", "My Profiles"})
+        EXPECT_EQ(TSProfileLibrary::find(text), "") << text;
+}
