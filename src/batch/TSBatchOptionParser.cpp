@@ -1,5 +1,6 @@
 #include "batch/TSBatchOptionParser.h"
 
+#include "batch/TSBatchListFile.h"
 #include "batch/TSBatchValues.h"
 #include "export/TSExportHost.h"
 #include "naming/TSPatternParser.h"
@@ -10,7 +11,6 @@
 #include <array>
 #include <functional>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -299,29 +299,16 @@ const Option *findOption(const QString &name)
     return found == table.end() ? nullptr : &*found;
 }
 
-/// A list file holds a path a line; blank lines, either line ending and a byte order mark are all right.
-Problem readList(const QString &path, QStringList &photos)
-{
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-        return QStringLiteral("the list %1 cannot be read").arg(path);
-    QByteArray bytes = file.readAll();
-    if (bytes.startsWith("\xEF\xBB\xBF"))
-        bytes.remove(0, 3);
-    for (QByteArray line : bytes.split('\n')) {
-        if (line.endsWith('\r'))
-            line.chop(1);
-        if (!line.trimmed().isEmpty())
-            photos.append(QFile::decodeName(line));
-    }
-    return std::nullopt;
-}
-
 Problem addPhoto(Parse &parse, const QString &argument)
 {
-    if (argument.startsWith(u'@') && !QFileInfo::exists(argument))
-        return readList(argument.mid(1), parse.options.photos);
-    parse.options.photos.append(argument);
+    if (!argument.startsWith(u'@') || QFileInfo::exists(argument)) {
+        parse.options.photos.append(argument);
+        return std::nullopt;
+    }
+    const auto list = TSBatchListFile::read(argument.mid(1));
+    if (!list)
+        return QStringLiteral("the list %1 cannot be read").arg(argument.mid(1));
+    parse.options.photos.append(*list);
     return std::nullopt;
 }
 

@@ -9,6 +9,7 @@
 #include "session/TSImageBrowserItem.h"
 #include "session/TSPhotoManager.h"
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 #include <QTimeZone>
@@ -32,25 +33,32 @@ QString nameWithoutExtension(const QString &path)
     return dot > 0 ? name.first(dot) : name;
 }
 
+/// Cut towards zero. Cameras write fractions over zero too, whose value is no number or without end.
+qint64 wholePart(double value)
+{
+    constexpr double limit = 9e18;
+    return std::isfinite(value) ? qint64(std::clamp(value, -limit, limit)) : 0;
+}
+
 /// Nothing for a negative time, which no camera means.
 std::optional<QString> exposureText(const QVariant &value)
 {
     const double time = value.toDouble();
     if (time < 0)
         return std::nullopt;
-    if (time == 0)
+    if (time == 0 || !std::isfinite(time))
         return QString();
     if (time >= 1)
-        return QString::number(qint64(time));
+        return QString::number(wholePart(time));
     // 1/93 kept as a fraction of seconds and turned over again must not lose its last unit to rounding.
     constexpr double tolerance = 1e-9;
-    return QStringLiteral("1 / %1").arg(qint64(1.0 / time + tolerance));
+    return QStringLiteral("1 / %1").arg(wholePart(1.0 / time + tolerance));
 }
 
 /// Cut and not rounded: f/2.8 reads 2. Layouts count on it.
 QString wholeNumber(const QVariant &value)
 {
-    return QString::number(qint64(value.toDouble()));
+    return QString::number(wholePart(value.toDouble()));
 }
 
 QString isoText(const QVariant &value)

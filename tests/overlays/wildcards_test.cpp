@@ -82,8 +82,9 @@ TEST_F(WildcardsTest, EveryRowOfTheList)
 TEST_F(WildcardsTest, ExposureTimes)
 {
     const std::pair<double, const char *> cases[] = {
-        {0.004, "1 / 250"}, {0.3, "1 / 3"}, {1.0, "1"}, {0.0, ""}, {-1.0, "x"}, {1 / 93.0, "1 / 93"},
-    };
+        {0.004, "1 / 250"}, {0.3, "1 / 3"}, {1.0, "1"},
+        {0.0, ""},          {-1.0, "x"},    {1 / 93.0, "1 / 93"},
+        {std::nan(""), ""}, {1 / 0.0, ""},  {1e300, "9000000000000000000"}};
     for (const auto &[time, text] : cases) {
         const TSPhoto photo = photoWith({{"ExposureTime", time}});
         const std::string expected = std::string("x") + text;
