@@ -1,5 +1,6 @@
 #include "platform/SvgDrawing.h"
 
+#include <algorithm>
 #include <QRect>
 
 namespace platform {
@@ -7,9 +8,8 @@ namespace platform {
 namespace {
 
 /// No surface of the drawing library is longer, and no honest drawing is.
-constexpr double longestSide = 32767;
-/// Groups and filters are drawn on surfaces of their own, as large as the part of the picture that is drawn.
-constexpr int partSide = 8192;
+constexpr int longestSide = 32767;
+constexpr int partSide = 16384;
 
 QSizeF naturalSize(RsvgHandle *handle)
 {
@@ -52,9 +52,12 @@ QImage SvgDrawing::imageOfSize(const QSize &pixels) const
     if (image.isNull())
         return {};
     image.fill(Qt::transparent);
-    for (int y = 0; y < pixels.height(); y += partSide)
-        for (int x = 0; x < pixels.width(); x += partSide)
-            if (!drawPart(image, QRect(x, y, partSide, partSide) & image.rect()))
+    // A layer inside the drawing takes a surface of the whole picture for every part: there are few.
+    const bool fits = std::max(pixels.width(), pixels.height()) <= longestSide;
+    const int side = fits ? longestSide : partSide;
+    for (int y = 0; y < pixels.height(); y += side)
+        for (int x = 0; x < pixels.width(); x += side)
+            if (!drawPart(image, QRect(x, y, side, side) & image.rect()))
                 return {};
     return image;
 }

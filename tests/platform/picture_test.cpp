@@ -1,8 +1,10 @@
 #include "platform/Picture.h"
 
+#include "platform/Folders.h"
 #include "support/Folder.h"
 #include "support/Pictures.h"
 
+#include <QDir>
 #include <QPainter>
 #include <QPdfWriter>
 #include <thread>
@@ -87,12 +89,12 @@ TEST_F(PictureTest, DrawsShapesSharpAtEverySize)
 
 TEST_F(PictureTest, JoinsThePartsOfALongDrawing)
 {
-    const auto picture = load(svg("width='10' height='1' opacity='0.5'", "<rect width='7' height='1'/>"));
-    const QImage image = picture->imageOfSize({20000, 20});
+    const QByteArray shape = "<rect width='7' height='1' fill-opacity='0.5'/>";
+    const QImage image = load(svg("width='10' height='1'", shape))->imageOfSize({40000, 20});
     EXPECT_EQ(boxWhere(image, [](const QColor &color) { return color.alpha() == 128; }),
-              QRect(0, 0, 14000, 20));
-    for (int x = 0; x < 20000; ++x)
-        ASSERT_EQ(qAlpha(image.pixel(x, 10)), x < 14000 ? 128 : 0) << x;
+              QRect(0, 0, 28000, 20));
+    for (int x = 0; x < 40000; ++x)
+        ASSERT_EQ(qAlpha(image.pixel(x, 10)), x < 28000 ? 128 : 0) << x;
 }
 
 TEST_F(PictureTest, TakesNothingFromOutsideADrawing)
@@ -153,4 +155,33 @@ TEST_F(PictureTest, ServesThreadsAtOnce)
         });
     for (std::thread &thread : threads)
         thread.join();
+}
+
+/// Full pictures and thumbnails are paired by their place in the listings.
+TEST_F(PictureTest, FindsEveryStickerWithItsThumbnail)
+{
+    const QDir stickers(platform::resourceFolder() + "/Stickers");
+    const QDir list(platform::resourceFolder() + "/StickerList");
+    const QStringList drawings = stickers.entryList(QDir::Files, QDir::Name);
+    const QStringList thumbnails = list.entryList(QDir::Files, QDir::Name);
+    ASSERT_EQ(drawings.size(), 48);
+    ASSERT_EQ(thumbnails.size(), 48);
+    const auto isInk = [](const QColor &color) { return color.alpha() > 127; };
+    for (int i = 0; i < 48; ++i) {
+        const QString name = QString::asprintf("sticker_%02d", i + 1);
+        EXPECT_EQ(drawings[i], name + ".svg");
+        EXPECT_EQ(thumbnails[i], name + ".png");
+        const auto sticker = Picture::load(stickers.filePath(drawings[i]));
+        const auto thumbnail = Picture::load(list.filePath(thumbnails[i]));
+        ASSERT_TRUE(sticker && thumbnail) << i;
+        const QSize size = sticker->size().scaled(172, 172, Qt::KeepAspectRatio).toSize();
+        const QRect ink = boxWhere(sticker->imageOfSize(size), isInk);
+        const QRect shown = boxWhere(thumbnail->imageOfSize({200, 200}), isInk);
+        const QPoint off =
+            shown.center() - QPoint(100, 100) - ink.center() + QPoint(size.width(), size.height()) / 2;
+        EXPECT_LE(off.manhattanLength(), 4) << i;
+        EXPECT_LE((shown.size() - ink.size()).width(), 10) << i;
+        // Nothing is cut off at the edge.
+        EXPECT_TRUE(QRect({0, 0}, size).adjusted(1, 1, -1, -1).contains(ink)) << i;
+    }
 }
