@@ -6,6 +6,7 @@
 #include "naming/TSPatternParser.h"
 #include "platform/FontChoice.h"
 #include "platform/ImageFile.h"
+#include "platform/Picture.h"
 #include "profiles/TSProfileLibrary.h"
 
 #include <array>
@@ -61,7 +62,7 @@ Problem addWords(Parse &parse, const QString &value)
 
 Problem addImage(Parse &parse, const QString &value)
 {
-    if (!platform::isDecodableImage(value))
+    if (!platform::isDecodableImage(value) && !platform::Picture::load(value))
         return QStringLiteral("\"%1\" is not a picture that can be read").arg(value);
     TSBatchMark mark;
     mark.kind = TSBatchMark::Kind::Image;
