@@ -61,6 +61,15 @@ void collectFonts(const TSOverlayManager::Overlays &overlays, QSet<QString> &fam
     }
 }
 
+void collectPictures(const std::vector<TSBatchMark> &marks, QStringList &paths)
+{
+    for (const TSBatchMark &mark : marks) {
+        if (mark.kind == TSBatchMark::Kind::Image)
+            paths.append(mark.imagePath);
+        collectPictures(mark.members, paths);
+    }
+}
+
 int tellProfiles()
 {
     QString text;
@@ -96,8 +105,7 @@ TSBatchCommand::TSBatchCommand(const TSBatchOptions &options, TSBatchReporter &r
     m_run.largestOutput = largestOutput;
     // A photo that could not be taken in is an original all the same.
     m_run.keptFiles = options.photos;
-    for (const TSBatchMark &mark : options.marks)
-        m_run.keptFiles.append(mark.imagePath);
+    collectPictures(options.marks, m_run.keptFiles);
     m_run.placed = [this](qint64, const std::vector<TSMarkPlacement> &marks) { m_placements = marks; };
 }
 

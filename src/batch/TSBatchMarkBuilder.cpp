@@ -1,6 +1,7 @@
 #include "batch/TSBatchMarkBuilder.h"
 
 #include "overlays/TSAnchor.h"
+#include "overlays/TSGroup.h"
 #include "overlays/TSImage.h"
 #include "overlays/TSOverlayManager.h"
 #include "overlays/TSText.h"
@@ -93,13 +94,32 @@ QString TSBatchMarkBuilder::build(const std::vector<TSBatchMark> &marks)
 void TSBatchMarkBuilder::add(const TSBatchMark &mark, const TSPhoto &shown)
 {
     TSOverlayManager *manager = TSOverlayManager::overlayManager();
+    const auto overlay = placedOverlay(mark, shown);
+    // Tiles lie below all else.
+    manager->insertOverlay(overlay, overlay->isScript() ? manager->notScriptsCount() : 0);
+    writeRows(*overlay, mark);
+}
+
+std::shared_ptr<TSOverlay> TSBatchMarkBuilder::placedOverlay(const TSBatchMark &mark, const TSPhoto &shown)
+{
+    if (mark.kind == TSBatchMark::Kind::Group)
+        return newGroup(mark, shown);
     const auto overlay = newOverlay(mark, shown);
     place(*overlay, mark);
     if (mark.kind == TSBatchMark::Kind::Script)
         becomeScript(static_cast<TSText &>(*overlay), mark);
-    // Tiles lie below all else.
-    manager->insertOverlay(overlay, overlay->isScript() ? manager->notScriptsCount() : 0);
-    writeRows(*overlay, mark);
+    return overlay;
+}
+
+std::shared_ptr<TSOverlay> TSBatchMarkBuilder::newGroup(const TSBatchMark &mark, const TSPhoto &shown)
+{
+    TSGroup::Members members;
+    // The first of a group lies at the bottom.
+    for (auto member = mark.members.rbegin(); member != mark.members.rend(); ++member)
+        members.push_back(placedOverlay(*member, shown));
+    const auto group = TSGroup::groupOverlayWithOverlays(members);
+    group->setOpacity(1);
+    return group;
 }
 
 std::shared_ptr<TSOverlay> TSBatchMarkBuilder::newOverlay(const TSBatchMark &mark, const TSPhoto &shown)

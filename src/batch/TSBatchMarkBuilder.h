@@ -18,6 +18,8 @@ public:
 
 private:
     static void add(const TSBatchMark &mark, const TSPhoto &shown);
+    static std::shared_ptr<TSOverlay> placedOverlay(const TSBatchMark &mark, const TSPhoto &shown);
+    static std::shared_ptr<TSOverlay> newGroup(const TSBatchMark &mark, const TSPhoto &shown);
     static std::shared_ptr<TSOverlay> newOverlay(const TSBatchMark &mark, const TSPhoto &shown);
     static void place(TSOverlay &overlay, const TSBatchMark &mark);
     static void becomeScript(TSText &text, const TSBatchMark &mark);

@@ -9,6 +9,7 @@
 #include "platform/Picture.h"
 #include "profiles/TSProfileLibrary.h"
 
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <QDir>
@@ -25,6 +26,7 @@ struct Parse {
 
     TSBatchMark *lastMark() { return options.marks.empty() ? nullptr : &options.marks.back(); }
     bool lastIs(TSBatchMark::Kind kind) { return lastMark() && lastMark()->kind == kind; }
+    bool lastIsBlock() { return lastIs(TSBatchMark::Kind::Profile) || lastIs(TSBatchMark::Kind::Group); }
     TSBatchMark *lastText()
     {
         const bool isText = lastIs(TSBatchMark::Kind::Text) || lastIs(TSBatchMark::Kind::Script);
@@ -82,6 +84,30 @@ Problem addProfile(Parse &parse, const QString &value)
     return std::nullopt;
 }
 
+/// Tiles and profiles stand for a whole photo, and are no part of another mark.
+bool canJoinGroup(const TSBatchMark &mark)
+{
+    return mark.kind != TSBatchMark::Kind::Script && mark.kind != TSBatchMark::Kind::Profile;
+}
+
+Problem addGroup(Parse &parse, const QString &value)
+{
+    std::vector<TSBatchMark> &marks = parse.options.marks;
+    const auto count = TSBatchValues::wholeNumber(value, 2, 1000);
+    if (!count)
+        return notOne(value, "a number of marks from 2 up");
+    if (marks.size() < size_t(*count))
+        return QStringLiteral("there are not so many marks before it");
+    TSBatchMark group;
+    group.kind = TSBatchMark::Kind::Group;
+    group.members.assign(marks.end() - *count, marks.end());
+    if (!std::all_of(group.members.begin(), group.members.end(), canJoinGroup))
+        return QStringLiteral("tiles and profiles cannot be put into a group");
+    marks.resize(marks.size() - size_t(*count));
+    marks.push_back(std::move(group));
+    return std::nullopt;
+}
+
 /// Reads a value into a field of the mark given last.
 template <typename T, typename Field>
 Problem setOnMark(Parse &parse, const std::optional<T> &value, const QString &text, const char *wanted,
@@ -89,8 +115,8 @@ Problem setOnMark(Parse &parse, const std::optional<T> &value, const QString &te
 {
     if (!parse.lastMark())
         return QStringLiteral("there is no mark before it that it could belong to");
-    if (parse.lastIs(TSBatchMark::Kind::Profile))
-        return QStringLiteral("what stands before it is a profile, whose marks have their places and looks");
+    if (parse.lastIsBlock())
+        return QStringLiteral("the marks of a profile or a group have their places and looks already");
     if (!value)
         return notOne(text, wanted);
     parse.lastMark()->*field = *value;
@@ -132,7 +158,7 @@ Problem setOpacity(Parse &parse, const QString &value)
 
 Problem needsText(Parse &parse)
 {
-    if (parse.lastText() || parse.lastIs(TSBatchMark::Kind::Profile))
+    if (parse.lastText() || parse.lastIsBlock())
         return std::nullopt;
     return parse.lastMark() ? QStringLiteral("the mark before it is a picture, which has no such look")
                             : QStringLiteral("there is no text before it that it could belong to");
@@ -243,7 +269,7 @@ Problem setFlag(Parse &parse, const QString &)
     return std::nullopt;
 }
 
-constexpr std::array<Option, 27> table = {
+constexpr std::array<Option, 28> table = {
     {{"text", "STRING",
       "a text; {NAME} {COUNTER} {MODEL} {EXPOSURE} {FNUMBER} {ISO} {FOCAL} {C_DATE} {M_DATE} {DATE} {TIME} "
       "are "
@@ -253,6 +279,8 @@ constexpr std::array<Option, 27> table = {
      {"script", "STRING", "a text tiled over the whole photo, --height high",
       addWords<TSBatchMark::Kind::Script>},
      {"profile", "DIR.tspf|GROUP/NAME", "the marks of a profile, in their places", addProfile},
+     {"group", "N", "makes one mark of the N given last, which keep together on photos of any shape",
+      addGroup},
      {"anchor", "0..8|top-left|top|top-right|right|bottom-right|bottom|bottom-left|left|center",
       "where the mark is held (bottom-right)", setAnchor},
      {"offset", "X,Y", "how far it lies from there, to the right and down (-2,-2)", setOffset},

@@ -30,14 +30,17 @@ struct TSBatchShadow {
     platform::Color color{0, 0, 0, 0.5};
 };
 
-/// One mark as the command line asks for it, or a profile: a block of marks with places of their own.
+/// One mark as the command line asks for it, or a block of marks with places of their own: a profile, or a
+/// group of the marks given before it.
 struct TSBatchMark {
-    enum class Kind { Text, Script, Image, Profile };
+    enum class Kind { Text, Script, Image, Profile, Group };
 
     Kind kind = Kind::Text;
     std::vector<TSTokenValue> words;
     QString imagePath;
     QString profilePath;
+    /// Of a group, in the order given.
+    std::vector<TSBatchMark> members;
 
     unsigned anchor = TSPositionCode::RightBottom;
     /// In percent of the canvas or in pixels of the photo.

@@ -240,6 +240,21 @@ TEST_F(CommandTest, MarksStackInTheOrderGivenWithTilesBelow)
     }
 }
 
+/// Side by side on the canvas, 10 pixels apart; as wide apart on a photo of half the height.
+TEST_F(CommandTest, AGroupKeepsItsMarksTogether)
+{
+    session.writePng("a.png", plainImage({400, 200}));
+    session.writePng("b.png", plainImage({400, 100}));
+    const QStringList at = words("--opacity 100 --unit pixel --height 10 --anchor bottom-left --offset");
+    const QStringList group = QStringList{"--image", mark} + at + QStringList{"10,-10", "--image", mark} +
+                              at + words("60,-10 --group 2");
+    EXPECT_EQ(run(group + QStringList{"--format", "png", "--output", outFolder()}, words("a.png b.png")), 0);
+    const std::pair<const char *, QRect> cases[] = {{"/a.png", {10, 170, 90, 20}},
+                                                    {"/b.png", {10, 85, 45, 10}}};
+    for (const auto &[file, place] : cases)
+        EXPECT_EQ(extentOf(QImage(outFolder() + QLatin1String(file)), Qt::red), place) << file;
+}
+
 /// The layout is taken over from one command to another, on photos of another shape.
 TEST_F(CommandTest, AProfileStandsForTheMarksItWasSavedFrom)
 {
