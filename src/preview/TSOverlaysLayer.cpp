@@ -1,0 +1,36 @@
+#include "preview/TSOverlaysLayer.h"
+
+#include "overlays/TSHitTest.h"
+#include "overlays/TSOverlayManager.h"
+#include "platform/PaintLayer.h"
+#include "session/TSDataManager.h"
+
+#include <cmath>
+
+void TSOverlaysLayer::drawRect(QPainter &context, const QRectF &dirtyRect) const
+{
+    const TSDataManager *data = TSDataManager::dataManager();
+    if (data->photoCount() == 0)
+        return;
+    platform::PaintLayer layer(
+        QSize(int(std::ceil(data->previewFrame.width())), int(std::ceil(data->previewFrame.height()))));
+    const auto overlays = TSOverlayManager::overlayManager()->overlays();
+    for (auto overlay = overlays.rbegin(); overlay != overlays.rend(); ++overlay)
+        if (TSRectsMeet((*overlay)->frame(), dirtyRect))
+            (*overlay)->drawIncontext(layer);
+    context.save();
+    context.setClipRect(data->canvasFrame, Qt::IntersectClip);
+    layer.paint(context, dirtyRect.toAlignedRect());
+    context.restore();
+}
+
+std::shared_ptr<TSOverlay> TSOverlaysLayer::selectOverlayAtPoint(const QPointF &point) const
+{
+    for (const auto &overlay : TSOverlayManager::overlayManager()->overlays()) {
+        if (overlay->isScript())
+            return TSRectContainsPoint(TSDataManager::dataManager()->canvasFrame, point) ? overlay : nullptr;
+        if (TSRectContainsPoint(overlay->frame(), overlay->convertPoint(point)))
+            return overlay;
+    }
+    return nullptr;
+}
