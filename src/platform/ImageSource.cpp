@@ -81,7 +81,7 @@ VipsImagePtr load(const QString &path, const QByteArray &options)
 
 } // namespace
 
-VipsImagePtr openImageSource(const QString &path, int frame, QSize wanted)
+VipsImagePtr openImageSource(const QString &path, int frame, QSize wanted, int frames)
 {
     initializeVips();
     vips_error_clear();
@@ -102,7 +102,7 @@ VipsImagePtr openImageSource(const QString &path, int frame, QSize wanted)
         }
         return nullptr;
     case Format::Paged:
-        return load(path, "page=" + QByteArray::number(frame));
+        return load(path, "page=" + QByteArray::number(frame) + ",n=" + QByteArray::number(frames));
     case Format::Other:
         return load(path, {});
     case Format::Jpeg:
