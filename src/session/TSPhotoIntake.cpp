@@ -1,7 +1,7 @@
 #include "session/TSPhotoIntake.h"
 
 #include "platform/DrawingFile.h"
-#include "platform/ImageFile.h"
+#include "platform/FrameReader.h"
 #include "platform/ImageProperties.h"
 #include "session/TSDataManager.h"
 #include "session/TSFileUtility.h"
@@ -10,6 +10,7 @@
 #include "session/TSQuartzUtility.h"
 #include "vector/TSSVGImage.h"
 
+#include <algorithm>
 #include <QDateTime>
 #include <QFileInfo>
 #include <QPainter>
@@ -93,7 +94,7 @@ std::shared_ptr<TSPhoto> newPhoto(const TSImageBrowserItem &item, qint64 index)
 
 void TSPhotoIntake::addItemsWithURLs(const QStringList &paths, bool isInsert)
 {
-    m_repeatedFileNames.clear();
+    clearRepeatedFileNames();
     for (const QString &path : paths) {
         if (processCanceled)
             return;
@@ -101,10 +102,25 @@ void TSPhotoIntake::addItemsWithURLs(const QStringList &paths, bool isInsert)
     }
 }
 
+QString TSPhotoIntake::repeatedFileNames() const
+{
+    const std::lock_guard lock(m_namesLock);
+    return m_repeatedFileNames;
+}
+
+void TSPhotoIntake::clearRepeatedFileNames()
+{
+    const std::lock_guard lock(m_namesLock);
+    m_repeatedFileNames.clear();
+}
+
 void TSPhotoIntake::addFile(const QString &path, bool isInsert)
 {
-    if (!TSIsImagePath(path))
+    if (!TSIsImagePath(path)) {
+        // It counts as handled all the same: the strip is brought up to date even if nothing else came.
+        isHasAddItem = true;
         return refuse(path, reasonForRefusal(path));
+    }
     if (!isAddItem(path))
         return refuse(path, QStringLiteral("The photo is in the list already."));
     const unsigned type = TSImageType(path);
@@ -114,6 +130,7 @@ void TSPhotoIntake::addFile(const QString &path, bool isInsert)
         addFrames(path, isInsert);
     else
         addPlainFile(path, type, isInsert);
+    isHasAddItem = true;
 }
 
 bool TSPhotoIntake::isAddItem(const QString &path)
@@ -121,14 +138,15 @@ bool TSPhotoIntake::isAddItem(const QString &path)
     if (!TSDataManager::dataManager()->isHasItem(path))
         return true;
     const QString name = QFileInfo(path).fileName();
+    const std::lock_guard lock(m_namesLock);
     m_repeatedFileNames += m_repeatedFileNames.isEmpty() ? name : u',' + name;
     return false;
 }
 
 void TSPhotoIntake::addFrames(const QString &path, bool isInsert)
 {
-    const auto header = platform::readImageHeader(path);
-    const int frames = header ? header->frames : 0;
+    platform::FrameReader reader(path);
+    const int frames = reader.frameCount();
     if (frames == 0)
         return refuse(path, QStringLiteral("The file is not a picture that can be read."));
     // A cancelled intake finishes its file: half of the frames could not be completed later, since the file
@@ -138,7 +156,7 @@ void TSPhotoIntake::addFrames(const QString &path, bool isInsert)
         item->path = framePath(path, frame, frames);
         item->repType = IKImageBrowserCGImageRepresentationType;
         item->frameCount = quint64(frame);
-        item->cgimage = platform::decodeThumbnail(path, frameSide, frame);
+        item->cgimage = reader.nextThumbnail(frameSide);
         performAddItem(item, isInsert);
     }
 }
@@ -174,6 +192,8 @@ void TSPhotoIntake::addPlainFile(const QString &path, unsigned type, bool isInse
 
 void TSPhotoIntake::performAddItem(const Item &item, bool isInsert)
 {
+    if (m_delegate)
+        m_delegate->photoWillBeAdded(item->path);
     if (isInsert)
         insertItem(item);
     else
@@ -196,8 +216,10 @@ void TSPhotoIntake::addItem(const Item &item)
 void TSPhotoIntake::insertItem(const Item &item)
 {
     TSPhotoManager *photos = TSPhotoManager::photoManager();
-    const qint64 position = insertAtIndex++;
-    TSDataManager::dataManager()->insertItem(item, position);
+    TSDataManager *data = TSDataManager::dataManager();
+    const qint64 position = std::clamp<qint64>(insertAtIndex, 0, data->photoCount());
+    insertAtIndex = position + 1;
+    data->insertItem(item, position);
     if (m_rows)
         m_rows->photoWillJoin(position, photos->selectedPhoto());
     photos->insertDraggingPhoto(newPhoto(*item, position), position);

@@ -5,12 +5,15 @@
 
 #include <atomic>
 #include <memory>
+#include <mutex>
 #include <QStringList>
 
 /// What an intake tells while it runs, on the thread it runs on.
 class TSPhotoIntakeDelegate {
 public:
     virtual ~TSPhotoIntakeDelegate() = default;
+    /// Told before anything changes. The path is the item's, which for a frame is made up.
+    virtual void photoWillBeAdded(const QString &) {}
     virtual void photoWasAdded(const QString &path, qint64 index) = 0;
     /// A file that gave no photo, with a sentence that says why.
     virtual void fileWasRefused(const QString &path, const QString &reason) = 0;
@@ -27,13 +30,17 @@ public:
 
     /// Where the next photos go when they are inserted and not appended; moves on behind each of them.
     qint64 insertAtIndex = 0;
+    /// Looked at before each file; a file that is begun is finished.
     std::atomic<bool> processCanceled = false;
+    /// Whether a file was handled that is not a repeated one, be it that it was passed over as no picture.
+    bool isHasAddItem = false;
 
     /// Takes the files in, in the given order. Folders are not entered. What is no picture, or is in the list
     /// already, is passed over and the delegate told.
     void addItemsWithURLs(const QStringList &paths, bool isInsert);
-    /// The names of the files of this intake that were in the list already, joined by commas.
-    QString repeatedFileNames() const { return m_repeatedFileNames; }
+    /// The names of the files of this intake that were in the list already, joined by commas. Any thread.
+    QString repeatedFileNames() const;
+    void clearRepeatedFileNames();
 
 private:
     using Item = std::shared_ptr<TSImageBrowserItem>;
@@ -50,5 +57,6 @@ private:
 
     TSPhotoListObserver *m_rows;
     TSPhotoIntakeDelegate *m_delegate;
+    mutable std::mutex m_namesLock;
     QString m_repeatedFileNames;
 };

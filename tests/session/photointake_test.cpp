@@ -26,11 +26,14 @@ class PhotoIntakeTest : public SessionTest {
 protected:
     QString writePhoto(const QString &name) const { return session.writeJpeg(name, plainImage({16, 8})); }
 
+    static QColor colorOfPage(int page) { return QColor::fromHsv(page * 50 % 360, 255, 255); }
     /// The pages lie one below the other, as libvips wants them.
     QString writePages(const QString &name, int pages) const
     {
-        const platform::LazyImage lazy =
-            platform::LazyImage::fromImage(plainImage({20, 10 * pages}, Qt::red));
+        QImage roll = plainImage({20, 10 * pages});
+        for (int page = 0; page < pages; ++page)
+            QPainter(&roll).fillRect(0, 10 * page, 20, 10, colorOfPage(page));
+        const platform::LazyImage lazy = platform::LazyImage::fromImage(roll);
         vips_image_set_int(lazy.vips(), VIPS_META_PAGE_HEIGHT, 10);
         const QString path = session.path(name);
         EXPECT_EQ(vips_image_write_to_file(lazy.vips(), QFile::encodeName(path).constData(), nullptr), 0);
@@ -94,6 +97,7 @@ TEST_F(PhotoIntakeTest, EveryFrameIsAPhoto)
             EXPECT_EQ(item->resourePath, path);
             EXPECT_EQ(item->path, path + u'/' + labels[frame]);
             EXPECT_EQ(item->cgimage.size(), QSize(20, 10));
+            EXPECT_EQ(extentOf(item->cgimage, colorOfPage(frame)), QRect(0, 0, 20, 10));
             session.data.GetPhotoSize(frame);
             EXPECT_EQ(session.photos.photoAtIndex(frame)->photoSize, QSizeF(20, 10));
         }
@@ -101,6 +105,24 @@ TEST_F(PhotoIntakeTest, EveryFrameIsAPhoto)
         EXPECT_EQ(session.data.photoCount(), pages);
         EXPECT_EQ(m_intake.repeatedFileNames(), QString::fromUtf16(name));
     }
+}
+
+TEST_F(PhotoIntakeTest, FramesThatDifferKeepWhatIsTheirs)
+{
+    QByteArray bytes = bytesOf(writePages(QStringLiteral("two.tif"), 2));
+    const auto entry = [&](quint16 tag, qsizetype from) {
+        const char head[] = {char(tag & 0xFF), char(tag >> 8)};
+        return bytes.indexOf(QByteArray(head, 2) + QByteArray("\x03\x00\x01\x00\x00\x00", 6), from);
+    };
+    constexpr quint16 orientation = 274;
+    const qsizetype second = entry(orientation, entry(orientation, 0) + 1);
+    ASSERT_GT(second, 0);
+    bytes[second + 8] = 6;
+    const QString turned = session.write(QStringLiteral("turned.tif"), bytes);
+    m_intake.addItemsWithURLs({turned}, false);
+    ASSERT_EQ(session.data.photoCount(), 2);
+    EXPECT_EQ(session.data.itemAtIndex(0)->cgimage.size(), QSize(20, 10));
+    EXPECT_EQ(session.data.itemAtIndex(1)->cgimage.size(), QSize(10, 20));
 }
 
 TEST_F(PhotoIntakeTest, CancellingFinishesTheFileAtHand)
