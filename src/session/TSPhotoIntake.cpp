@@ -5,15 +5,11 @@
 #include "platform/ImageProperties.h"
 #include "session/TSDataManager.h"
 #include "session/TSFileUtility.h"
-#include "session/TSImageUtility.h"
 #include "session/TSPhotoManager.h"
-#include "session/TSQuartzUtility.h"
-#include "vector/TSSVGImage.h"
 
 #include <algorithm>
 #include <QDateTime>
 #include <QFileInfo>
-#include <QPainter>
 
 using enum TSRepresentationType;
 
@@ -45,19 +41,6 @@ QString reasonForRefusal(const QString &path)
     if (info.size() == 0)
         return QStringLiteral("The file is empty.");
     return QStringLiteral("The file is not a picture that can be read.");
-}
-
-QImage rasterizedSvg(const QString &path, const QSizeF &box)
-{
-    const auto drawing = TSSVGImage::imageWithContentsOfFile(path);
-    const QSizeF natural = drawing ? drawing->size() : QSizeF(0, 0);
-    const QSizeF size = TSFitSizeInBox(natural.width(), natural.height(), box.width(), box.height());
-    QImage surface = TSCreateBitmapContextCopy(size.width(), size.height());
-    if (surface.isNull())
-        return surface;
-    QPainter painter(&surface);
-    drawing->drawInRect(painter, QRectF(QPointF(0, 0), size));
-    return surface;
 }
 
 std::shared_ptr<TSImageBrowserItem> newItem(const QString &path)
@@ -165,12 +148,15 @@ void TSPhotoIntake::addFrames(const QString &path, bool isInsert)
 /// that.
 void TSPhotoIntake::addDrawing(const QString &path, unsigned type, bool isInsert)
 {
+    const QFileInfo info(path);
+    if (!info.isFile() || !info.isReadable() || info.size() == 0)
+        return refuse(path, reasonForRefusal(path));
     const QSizeF box(frameSide, frameSide);
     const Item item = newItem(path);
-    QString reason = QStringLiteral("The drawing has no size, or cannot be read.");
+    QString reason;
     item->repType = IKImageBrowserCGImageRepresentationType;
     if (type == TSImageTypeCode::SVG)
-        item->cgimage = rasterizedSvg(path, box);
+        item->cgimage = platform::rasterizeSvg(path, box, &reason);
     else if (type == TSImageTypeCode::EPS)
         item->cgimage = platform::rasterizeEps(path, box, &reason);
     else

@@ -36,7 +36,7 @@ TSPhotoIntakeController::~TSPhotoIntakeController()
     m_intake.processCanceled = true;
     // An intake that is about to meet this thread must find it, or neither would come to its end.
     constexpr int patience = 5;
-    while (!m_queue.waitForDone(patience)) {
+    while (!m_queue.waitForDone(patience) || isRunning()) {
         QCoreApplication::sendPostedEvents(this, QEvent::User);
         m_intake.processCanceled = true;
     }
@@ -66,8 +66,17 @@ void TSPhotoIntakeController::run()
         const std::lock_guard lock(m_meeting);
         drop = std::move(m_drops.front());
         m_drops.pop_front();
+        m_isRunning = true;
     }
     addItemsFromURLs(drop.paths, drop.isInsert, drop.insertAtIndex);
+    const std::lock_guard lock(m_meeting);
+    m_isRunning = false;
+}
+
+bool TSPhotoIntakeController::isRunning()
+{
+    const std::lock_guard lock(m_meeting);
+    return m_isRunning;
 }
 
 void TSPhotoIntakeController::syncOnMainThread(const std::function<void()> &operation)

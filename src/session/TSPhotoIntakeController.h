@@ -52,6 +52,7 @@ private:
     void performOperation();
     void customEvent(QEvent *) override;
     void run() override;
+    bool isRunning();
     void showNewPhotos(bool isInsert);
     void showAlert();
 
@@ -66,6 +67,7 @@ private:
     // What the threads hand to each other, under one lock.
     std::mutex m_meeting;
     std::deque<Drop> m_drops;
+    bool m_isRunning = false;
     std::condition_variable m_isPerformed;
     /// What the intake waits for the main thread to do.
     const std::function<void()> *m_operation = nullptr;

@@ -3,6 +3,7 @@
 #include "support/Session.h"
 
 #include <functional>
+#include <QElapsedTimer>
 
 namespace {
 
@@ -38,6 +39,22 @@ protected:
         const QString path = session.path(name);
         EXPECT_EQ(vips_image_write_to_file(lazy.vips(), QFile::encodeName(path).constData(), nullptr), 0);
         return path;
+    }
+    // Drawings of 200 by 100.
+    static QByteArray eps(const QByteArray &body)
+    {
+        return "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 200 100\n" + body + "\nshowpage\n";
+    }
+    static QByteArray svg(const QByteArray &body) { return "<svg viewBox='0 0 200 100'>" + body + "</svg>"; }
+    /// Without a table of its objects, which readers make up for.
+    static QByteArray pdf(const QByteArray &body, const QByteArray &ofPage = {},
+                          const QByteArray &ofTrailer = {})
+    {
+        return "%PDF-1.4\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n"
+               "2 0 obj<</Type/Pages/Kids[3 0 R]/Count 1>>endobj\n"
+               "3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 200 100]/Contents 4 0 R" +
+               ofPage + ">>endobj\n4 0 obj<</Length " + QByteArray::number(body.size()) + ">>stream\n" +
+               body + "\nendstream endobj\ntrailer<</Root 1 0 R" + ofTrailer + ">>\n";
     }
     QStringList titles() const
     {
@@ -131,6 +148,84 @@ TEST_F(PhotoIntakeTest, CancellingFinishesTheFileAtHand)
     m_intake.addItemsWithURLs({writePages(QStringLiteral("a.tif"), 3), writePhoto(QStringLiteral("b.jpg"))},
                               false);
     EXPECT_EQ(session.data.photoCount(), 3);
+}
+
+TEST_F(PhotoIntakeTest, DrawingsTouchABoxOf2000)
+{
+    const struct {
+        const char *name;
+        QByteArray bytes;
+        QSize size;
+        QRect red;
+        QColor paper;
+    } cases[] = {
+        {"a.eps",
+         eps("1 0 0 setrgbcolor 0 0 100 100 rectfill"),
+         {2000, 1000},
+         {0, 0, 1000, 1000},
+         Qt::transparent},
+        {"a.svg",
+         svg("<rect x='0' y='0' width='100' height='100' fill='#ff0000'/>"),
+         {2000, 1000},
+         {0, 0, 1000, 1000},
+         Qt::transparent},
+        {"a.PDF", pdf("1 0 0 rg 0 0 100 100 re f"), {2000, 1000}, {0, 0, 1000, 1000}, Qt::white},
+        {"a.ai", pdf("1 0 0 rg 0 0 100 100 re f", "/Rotate 90"), {1000, 2000}, {0, 0, 1000, 1000}, Qt::white},
+        // Entities that grow and files that it refers to are left out; what stands before them is drawn.
+        {"b.svg",
+         "<!DOCTYPE svg [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b '" + QByteArray("&a;").repeated(1000) +
+             "'><!ENTITY x SYSTEM 'file:///dev/zero'>]>" +
+             svg("<rect x='0' y='0' width='100' height='100' fill='#ff0000'/><text>&x;&b;</text>"),
+         {2000, 1000},
+         {0, 0, 1000, 1000},
+         Qt::transparent},
+    };
+    for (const auto &[name, bytes, size, red, paper] : cases) {
+        session.data.removeAllPhotos();
+        m_intake.addItemsWithURLs({session.write(QString::fromLatin1(name), bytes)}, false);
+        EXPECT_EQ(m_notes.refused, QStringList()) << name;
+        const auto item = session.data.itemAtIndex(0);
+        ASSERT_NE(item, nullptr) << name;
+        EXPECT_EQ(item->frameSize, QSizeF(size));
+        EXPECT_EQ(extentOf(item->cgimage, Qt::red), red) << name;
+        EXPECT_EQ(item->cgimage.pixelColor(size.width() - 5, size.height() - 5), paper) << name;
+    }
+}
+
+TEST_F(PhotoIntakeTest, HostileDrawingsAreRefusedInTime)
+{
+    const QString outside = session.path(QStringLiteral("outside"));
+    const QByteArray key(32, 'x');
+    const struct {
+        const char *name;
+        QByteArray bytes;
+        const char *reason;
+    } cases[] = {
+        {"empty.ai", "", "The file is empty."},
+        {"words.pdf", "words", "The file is not a PDF document."},
+        {"head.pdf", "%PDF-1.4\n", "The file is damaged, or is not what its name says."},
+        {"locked.pdf",
+         pdf("", "", "/ID[(a)(a)]/Encrypt<</Filter/Standard/V 1/R 2/P -4/O(" + key + ")/U(" + key + ")>>"),
+         "The document is protected by a password."},
+        {"none.svg", "<svg/>", "The drawing has no size, or cannot be read."},
+        {"none.eps", "%!PS\nshowpage", "The file is not a PostScript drawing with a size."},
+        {"write.eps", eps("(" + outside.toUtf8() + ") (w) file closefile"),
+         "The file is damaged, or is not what its name says."},
+        // Drawn, but larger than it said.
+        {"huge.eps", eps("<< /PageSize [400 400] >> setpagedevice"),
+         "The file is damaged, or is not what its name says."},
+        {"loop.eps", eps("{} loop"), "Drawing the file takes longer than 10 seconds."},
+    };
+    for (const auto &[name, bytes, reason] : cases) {
+        m_notes.refused.clear();
+        QElapsedTimer clock;
+        clock.start();
+        m_intake.addItemsWithURLs({session.write(QString::fromLatin1(name), bytes)}, false);
+        EXPECT_LT(clock.elapsed(), 10000) << name;
+        EXPECT_EQ(session.data.photoCount(), 0) << name;
+        EXPECT_EQ(m_notes.refused, QStringList(QString::fromLatin1(reason))) << name;
+    }
+    EXPECT_FALSE(QFile::exists(outside));
 }
 
 TEST_F(PhotoIntakeTest, NewPhotosTakeTheSelectedPhotosRow)
