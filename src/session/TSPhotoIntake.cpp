@@ -99,20 +99,23 @@ void TSPhotoIntake::clearRepeatedFileNames()
 
 void TSPhotoIntake::addFile(const QString &path, bool isInsert)
 {
-    if (!TSIsImagePath(path)) {
+    const unsigned type = TSImageType(path);
+    // Properties are read with the header, and reading that twice would double the time of most photos.
+    const bool hasProperties = type == TSImageTypeCode::JPG;
+    const QVariantMap properties = hasProperties ? platform::imageProperties(path) : QVariantMap();
+    if (hasProperties ? properties.isEmpty() : !TSIsImagePath(path)) {
         // It counts as handled all the same: the strip is brought up to date even if nothing else came.
         isHasAddItem = true;
         return refuse(path, reasonForRefusal(path));
     }
     if (!isAddItem(path))
         return refuse(path, QStringLiteral("The photo is in the list already."));
-    const unsigned type = TSImageType(path);
     if (TSIsVectorType(type))
         addDrawing(path, type, isInsert);
     else if (type == TSImageTypeCode::TIFF || type == TSImageTypeCode::GIF)
         addFrames(path, isInsert);
     else
-        addPlainFile(path, type, isInsert);
+        addPlainFile(path, properties, isInsert);
     isHasAddItem = true;
 }
 
@@ -167,12 +170,11 @@ void TSPhotoIntake::addDrawing(const QString &path, unsigned type, bool isInsert
     performAddItem(item, isInsert);
 }
 
-void TSPhotoIntake::addPlainFile(const QString &path, unsigned type, bool isInsert)
+void TSPhotoIntake::addPlainFile(const QString &path, const QVariantMap &properties, bool isInsert)
 {
     const Item item = newItem(path);
     item->repType = IKImageBrowserPathRepresentationType;
-    if (type == TSImageTypeCode::JPG)
-        item->propertiesDic = platform::imageProperties(path);
+    item->propertiesDic = properties;
     performAddItem(item, isInsert);
 }
 

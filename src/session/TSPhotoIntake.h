@@ -49,7 +49,7 @@ private:
     bool isAddItem(const QString &path);
     void addFrames(const QString &path, bool isInsert);
     void addDrawing(const QString &path, unsigned type, bool isInsert);
-    void addPlainFile(const QString &path, unsigned type, bool isInsert);
+    void addPlainFile(const QString &path, const QVariantMap &properties, bool isInsert);
     void performAddItem(const Item &item, bool isInsert);
     void addItem(const Item &item);
     void insertItem(const Item &item);
