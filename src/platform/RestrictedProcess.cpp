@@ -49,6 +49,27 @@ RestrictedProcess::Outcome RestrictedProcess::run(const QString &program, const 
     if (!m_folder.isValid())
         return Outcome::Failed;
     QProcess process;
+    confine(process);
+    QElapsedTimer clock;
+    clock.start();
+    process.start(program, arguments);
+    if (!process.waitForStarted())
+        return Outcome::IsMissing;
+    constexpr int patience = 100;
+    while (!process.waitForFinished(patience) && process.state() != QProcess::NotRunning) {
+        const bool isLate = clock.elapsed() > timeLimit;
+        if (!isLate && !isFolderFull())
+            continue;
+        process.kill();
+        process.waitForFinished();
+        return isLate ? Outcome::TookTooLong : Outcome::TookTooMuchSpace;
+    }
+    const bool isDone = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    return isDone ? Outcome::Done : Outcome::Failed;
+}
+
+void RestrictedProcess::confine(QProcess &process) const
+{
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const QString &name : {QStringLiteral("TMPDIR"), QStringLiteral("TEMP"), QStringLiteral("TMP")})
         environment.insert(name, m_folder.path());
@@ -58,27 +79,6 @@ RestrictedProcess::Outcome RestrictedProcess::run(const QString &program, const 
     process.setStandardInputFile(QProcess::nullDevice());
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.setStandardOutputFile(path(QStringLiteral("messages")));
-    QElapsedTimer clock;
-    clock.start();
-    process.start(program, arguments);
-    if (!process.waitForStarted())
-        return Outcome::IsMissing;
-    constexpr int patience = 100;
-    Outcome outcome = Outcome::Done;
-    while (outcome == Outcome::Done && !process.waitForFinished(patience) &&
-           process.state() != QProcess::NotRunning) {
-        if (clock.elapsed() > timeLimit)
-            outcome = Outcome::TookTooLong;
-        else if (isFolderFull())
-            outcome = Outcome::TookTooMuchSpace;
-    }
-    if (outcome != Outcome::Done) {
-        process.kill();
-        process.waitForFinished();
-        return outcome;
-    }
-    const bool isDone = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-    return isDone ? Outcome::Done : Outcome::Failed;
 }
 
 /// The limit on one file does not keep it from writing many.

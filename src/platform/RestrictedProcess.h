@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+class QProcess;
+
 namespace platform {
 
 /// One run of a program on a file that nobody vouches for. It gets 10 seconds, 1 GB of address space, no
@@ -18,6 +20,7 @@ public:
     QByteArray messages() const;
 
 private:
+    void confine(QProcess &process) const;
     bool isFolderFull() const;
 
     QTemporaryDir m_folder;

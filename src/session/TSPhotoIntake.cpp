@@ -180,12 +180,11 @@ void TSPhotoIntake::addPlainFile(const QString &path, const QVariantMap &propert
 
 void TSPhotoIntake::performAddItem(const Item &item, bool isInsert)
 {
+    const auto join = [&] { isInsert ? insertItem(item) : addItem(item); };
     if (m_delegate)
-        m_delegate->photoWillBeAdded(item->path);
-    if (isInsert)
-        insertItem(item);
+        m_delegate->photoIsReady(item->path, join);
     else
-        addItem(item);
+        join();
 }
 
 void TSPhotoIntake::addItem(const Item &item)

@@ -4,16 +4,18 @@
 #include "session/TSPhotoListObserver.h"
 
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <QStringList>
 
-/// What an intake tells while it runs, on the thread it runs on.
+/// What an intake tells while it runs, on the thread it runs on but for what is told from within `join`.
 class TSPhotoIntakeDelegate {
 public:
     virtual ~TSPhotoIntakeDelegate() = default;
-    /// Told before anything changes. The path is the item's, which for a frame is made up.
-    virtual void photoWillBeAdded(const QString &) {}
+    /// A photo is read and waits for `join`, which changes the lists and the rows; whoever shows them may
+    /// have another thread do it. The path is the item's, which for a frame is made up.
+    virtual void photoIsReady(const QString &, const std::function<void()> &join) { join(); }
     virtual void photoWasAdded(const QString &path, qint64 index) = 0;
     /// A file that gave no photo, with a sentence that says why.
     virtual void fileWasRefused(const QString &path, const QString &reason) = 0;

@@ -163,12 +163,15 @@ void TSPhotoIntakeController::cancelProcessAction()
         showAlert();
 }
 
-void TSPhotoIntakeController::photoWillBeAdded(const QString &path)
+/// The lists and the rows change on the main thread as well: after a cancel the sheet no longer keeps the
+/// user from them, while the file at hand is still being read.
+void TSPhotoIntakeController::photoIsReady(const QString &path, const std::function<void()> &join)
 {
-    syncOnMainThread([this, &path] {
+    syncOnMainThread([&] {
         m_host.setProcessTitle(QStringLiteral("%1:%2").arg(qtTrId("LoadingPhoto"), path));
         if (!m_strip.isRemoveEnabled())
             m_strip.setRemoveEnabled(true);
+        join();
     });
 }
 

@@ -56,7 +56,7 @@ private:
     void showNewPhotos(bool isInsert);
     void showAlert();
 
-    void photoWillBeAdded(const QString &path) override;
+    void photoIsReady(const QString &path, const std::function<void()> &join) override;
     void photoWasAdded(const QString &path, qint64 index) override;
     void fileWasRefused(const QString &path, const QString &reason) override;
 
