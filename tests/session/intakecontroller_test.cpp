@@ -6,17 +6,17 @@
 
 namespace {
 
-constexpr const char *repeatedAlert = "alert can'tAddRepeatedly, imagesFiltered";
+constexpr const char *repeatedAlert = "alert can'tAddRepeatedly imagesFiltered";
 
 class IntakeControllerTest : public SessionTest {
 protected:
     /// Written by the main thread alone, unlike by the encoders of the platform, which start threads.
-    QString writePhoto(const QString &name) const
+    QString photo(int number) const
     {
-        EXPECT_TRUE(plainImage({16, 8}).save(session.path(name), "JPG"));
-        return session.path(name);
+        const QString path = session.path(QStringLiteral("p%1.jpg").arg(number));
+        EXPECT_TRUE(plainImage({16, 8}).save(path, "JPG"));
+        return path;
     }
-    QString photo(int number) const { return writePhoto(QStringLiteral("p%1.jpg").arg(number)); }
     static QList<QUrl> urls(const QStringList &paths)
     {
         QList<QUrl> list;
@@ -47,33 +47,33 @@ TEST_F(IntakeControllerTest, TheFrameOfAnIntake)
         qint64 insertAt; // −1 appends
         const char *log;
     } cases[] = {
-        {{words}, -1, "sheet Loading... 1|refused words.txt|no sheet|no filling"},
+        {{words}, -1, "sheet Loading... true|refused words.txt|no sheet|no filling"},
         {{photo(0), photo(1)},
          -1,
-         "sheet Loading... 1|LoadingPhoto:p0.jpg|remove on|LoadingPhoto:p1.jpg|no sheet|no filling|"
+         "sheet Loading... true|title LoadingPhoto:p0.jpg|remove true|title LoadingPhoto:p1.jpg|no sheet|no "
+         "filling|"
          "reload|scroll 1|select 1|start view"},
-        {{photo(1)}, -1, "sheet Loading... 1|refused p1.jpg|no sheet|no filling|repeated"},
+        {{photo(1)}, -1, "sheet Loading... true|refused p1.jpg|no sheet|no filling|repeated"},
         {{photo(0), words},
          -1,
-         "sheet Loading... 1|refused p0.jpg|refused words.txt|no sheet|no filling|"
+         "sheet Loading... true|refused p0.jpg|refused words.txt|no sheet|no filling|"
          "reload|scroll 1|select 1|start view|repeated"},
         {{photo(2), photo(3)},
          1,
-         "sheet Loading... 1|LoadingPhoto:p2.jpg|LoadingPhoto:p3.jpg|no sheet|no filling|"
+         "sheet Loading... true|title LoadingPhoto:p2.jpg|title LoadingPhoto:p3.jpg|no sheet|no filling|"
          "reload|scroll 2|select 2|start view"},
         {{words},
          2,
-         "sheet Loading... 1|refused words.txt|no sheet|no filling|reload|scroll 1|select 1|start view"},
-        {{words}, 0, "sheet Loading... 1|refused words.txt|no sheet|no filling|reload|start view"},
-        {{}, -1, "sheet Loading... 1|no sheet|no filling"},
+         "sheet Loading... true|refused words.txt|no sheet|no filling|reload|scroll 1|select 1|start view"},
+        {{words}, 0, "sheet Loading... true|refused words.txt|no sheet|no filling|reload|start view"},
+        {{}, -1, "sheet Loading... true|no sheet|no filling"},
     };
     for (const auto &[paths, insertAt, log] : cases) {
         session.data.isRemoveAllPhotos = true;
         session.data.isSelectedPhotoChanged = false;
         m_controller.addItemsFromURLs(paths, insertAt >= 0, insertAt);
-        QStringList expected = lines(log);
-        expected.replaceInStrings(QStringLiteral("repeated"), QString::fromLatin1(repeatedAlert));
-        EXPECT_EQ(m_views.takeLog(), expected);
+        EXPECT_EQ(m_views.takeLog(), lines(log).replaceInStrings(QStringLiteral("repeated"),
+                                                                 QString::fromLatin1(repeatedAlert)));
         EXPECT_FALSE(session.data.isRemoveAllPhotos);
         EXPECT_TRUE(session.data.isSelectedPhotoChanged);
     }

@@ -7,7 +7,7 @@ namespace {
 
 class ListEditorTest : public SessionTest {
 protected:
-    /// Photos whose numbers are their rows in a plain mark, a text and a Script text.
+    /// Photos whose numbers are their rows in a plain text and a Script text.
     void begin(int count)
     {
         session.data.removeAllPhotos();
@@ -17,23 +17,17 @@ protected:
         m_text = std::make_shared<TSText>(QStringLiteral("text"));
         m_script = std::make_shared<TSText>(QStringLiteral("script"));
         m_script->setTextType(TSTextType::Script);
-        m_mark = std::make_shared<TSOverlay>();
-        for (const std::shared_ptr<TSOverlay> &overlay :
-             {m_mark, std::shared_ptr<TSOverlay>(m_text), std::shared_ptr<TSOverlay>(m_script)}) {
-            session.overlays.addOverlay(overlay);
-            overlay->oldRatioOfFrameByAlignmentArray.clear();
-        }
-        for (int row = 0; row < count; ++row) {
-            m_text->setScriptOrigin(QPointF(row, 0));
-            m_script->setScriptOrigin(QPointF(row, 0));
-            for (const auto &overlay : session.overlays.overlays()) {
-                overlay->setXPixel(row);
-                overlay->setYPixel(row);
-                overlay->setAngle(row);
-                overlay->setWmAlignment(unsigned(row));
-                overlay->setRatioOfFrameByAlignment(QRectF(row, 0, 1, 1));
-                overlay->appendRow();
-                overlay->oldRatioOfFrameByAlignmentArray.resize(size_t(row) + 1, QRectF(row, 0, 1, 1));
+        for (const auto &text : {m_text, m_script}) {
+            session.overlays.addOverlay(text);
+            for (int row = 0; row < count; ++row) {
+                text->setXPixel(row);
+                text->setYPixel(row);
+                text->setAngle(row);
+                text->setWmAlignment(unsigned(row));
+                text->setRatioOfFrameByAlignment(QRectF(row, 0, 1, 1));
+                text->setScriptOrigin(QPointF(row, 0));
+                text->appendRow();
+                text->oldRatioOfFrameByAlignmentArray.resize(size_t(row) + 1, QRectF(row, 0, 1, 1));
             }
         }
     }
@@ -56,34 +50,32 @@ protected:
             text += char('0' + int(number(row)));
         return text;
     }
-    /// The rows of all marks, which must agree; those of old ratios are a Script text's alone.
-    std::string rows(const std::string &oldRatiosOfOthers) const
+    /// The rows of both texts, which must agree; those of old ratios follow for a Script text alone.
+    std::string rows(const std::string &oldRatiosOfText) const
     {
         const auto number = [](auto value) { return value; };
-        const auto left = [](const QRectF &rect) { return rect.x(); };
-        const std::string told = digits(m_mark->xPixelArray, number);
-        for (const auto &overlay : session.overlays.overlays()) {
-            EXPECT_EQ(digits(overlay->xPixelArray, number), told);
-            EXPECT_EQ(digits(overlay->yPixelArray, number), told);
-            EXPECT_EQ(digits(overlay->angleArray, number), told);
-            EXPECT_EQ(digits(overlay->wmAlignmentArray, number), told);
-            EXPECT_EQ(digits(overlay->ratioOfFrameByAlignmentArray, left), told);
-            EXPECT_EQ(digits(overlay->oldRatioOfFrameByAlignmentArray, left),
-                      overlay->isScript() ? told : oldRatiosOfOthers);
+        const auto left = [](const auto &value) { return value.x(); };
+        const std::string told = digits(m_text->xPixelArray, number);
+        for (const auto &text : {m_text, m_script}) {
+            EXPECT_EQ(digits(text->xPixelArray, number), told);
+            EXPECT_EQ(digits(text->yPixelArray, number), told);
+            EXPECT_EQ(digits(text->angleArray, number), told);
+            EXPECT_EQ(digits(text->wmAlignmentArray, number), told);
+            EXPECT_EQ(digits(text->ratioOfFrameByAlignmentArray, left), told);
+            EXPECT_EQ(digits(text->scriptOriginArray, left), told);
         }
-        for (const auto &text : {m_text, m_script})
-            EXPECT_EQ(digits(text->scriptOriginArray, [](const QPointF &point) { return point.x(); }), told);
+        EXPECT_EQ(digits(m_text->oldRatioOfFrameByAlignmentArray, left), oldRatiosOfText);
+        EXPECT_EQ(digits(m_script->oldRatioOfFrameByAlignmentArray, left), told);
         return told;
     }
 
-    std::shared_ptr<TSOverlay> m_mark;
     std::shared_ptr<TSText> m_text;
     std::shared_ptr<TSText> m_script;
     PhotoListViews m_views;
     TSPhotoListEditor m_editor{session.overlays, m_views, m_views};
 };
 
-constexpr const char *confirmation = "confirm RemoveAllPhotosTitle, RemoveAllPhotos|";
+constexpr const char *confirmation = "confirm RemoveAllPhotosTitle RemoveAllPhotos|";
 
 } // namespace
 
@@ -124,12 +116,12 @@ TEST_F(ListEditorTest, TheOverlaysGoWithTheLastPhoto)
     m_editor.removeAllPhotosAction();
     EXPECT_EQ(m_views.takeLog(), lines(confirmation) + lines(confirmation));
     EXPECT_EQ(photos(), "0");
-    EXPECT_EQ(session.overlays.overlayCount(), 3);
+    EXPECT_EQ(session.overlays.overlayCount(), 2);
 
     m_views.answer = true;
     m_editor.removePhotoAction();
     EXPECT_EQ(m_views.takeLog(),
-              lines(confirmation) + lines("reload|remove off|hide list|no selection|reload|no editing|"
+              lines(confirmation) + lines("reload|remove false|hide list|no selection|reload|no editing|"
                                           "update list|no filling|start view|select rows"));
     EXPECT_EQ(session.data.photoCount() + session.photos.photoCount() + session.overlays.overlayCount(), 0);
     EXPECT_FALSE(session.data.isRemoveAllPhotos);
@@ -137,7 +129,7 @@ TEST_F(ListEditorTest, TheOverlaysGoWithTheLastPhoto)
     begin(3);
     m_editor.removeAllPhotosAction();
     EXPECT_EQ(m_views.takeLog(),
-              lines(confirmation) + lines("no filling|no selection|reload|remove off|no editing|hide list|"
+              lines(confirmation) + lines("no filling|no selection|reload|remove false|no editing|hide list|"
                                           "update list|start view"));
     EXPECT_EQ(session.data.photoCount() + session.photos.photoCount() + session.overlays.overlayCount(), 0);
     EXPECT_TRUE(session.data.isRemoveAllPhotos);
@@ -167,7 +159,7 @@ TEST_F(ListEditorTest, MovesCountPlacesBeforeTheMove)
 
 TEST_F(ListEditorTest, PhotosWithoutTheirFilesGoAndTheirRowsStay)
 {
-    const char *const alert = "alert Source don't exist, delete no source file image";
+    const char *const alert = "alert Source don't exist delete no source file image";
     begin(4);
     for (qint64 i = 0; i < session.data.photoCount(); ++i)
         session.data.itemAtIndex(i)->path = session.photos.photoAtIndex(i)->path =
@@ -190,7 +182,7 @@ TEST_F(ListEditorTest, PhotosWithoutTheirFilesGoAndTheirRowsStay)
     m_views.answer = false;
     m_editor.removeItemsWithoutSource();
     EXPECT_EQ(photos(), "");
-    EXPECT_EQ(session.overlays.overlayCount(), 3);
+    EXPECT_EQ(session.overlays.overlayCount(), 2);
     EXPECT_EQ(m_views.takeLog(),
               lines("release") + lines(confirmation) + QStringList(QString::fromLatin1(alert)));
 }
