@@ -1,24 +1,20 @@
 #include "platform/DrawingFile.h"
 
 #include "platform/LazyImage.h"
+#include "platform/RawPicture.h"
+#include "platform/RestrictedProcess.h"
 
-#include <cmath>
-#include <cstring>
+#include <algorithm>
 #include <optional>
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QRectF>
 #include <QRegularExpression>
-#include <QTemporaryDir>
-#include <sys/resource.h>
 
 namespace platform {
 
 namespace {
-
-constexpr int timeLimitSeconds = 10;
-constexpr rlim_t memoryLimit = rlim_t(1) << 30;
 
 QImage refused(QString *reason, const QString &text)
 {
@@ -30,21 +26,6 @@ QImage refused(QString *reason, const QString &text)
 double scaleToTouch(const QSizeF &size, const QSizeF &box)
 {
     return std::min(box.width() / size.width(), box.height() / size.height());
-}
-
-VipsImagePtr openPdf(const QString &path, double scale)
-{
-    struct Unref {
-        void operator()(VipsSource *source) const { g_object_unref(source); }
-    };
-    const std::unique_ptr<VipsSource, Unref> source(
-        vips_source_new_from_file(QFile::encodeName(path).constData()));
-    const char *loader = source ? vips_foreign_find_load_source(source.get()) : nullptr;
-    // Whatever else bears the name is not for this interpreter.
-    if (!loader || !std::strstr(loader, "Pdf"))
-        return nullptr;
-    const QByteArray options = "page=0,n=1,scale=" + QByteArray::number(scale, 'g', 12);
-    return VipsImagePtr(vips_image_new_from_source(source.get(), options.constData(), nullptr));
 }
 
 /// What the document says of its size, in points, the finer statement going first. It stands at the head or
@@ -70,75 +51,108 @@ std::optional<QRectF> boundingBox(const QString &path)
     return std::nullopt;
 }
 
-void limitProcess()
+QString reasonOf(RestrictedProcess::Outcome outcome, const QByteArray &messages, const char *usual)
 {
-    const rlimit memory{memoryLimit, memoryLimit};
-    const rlimit seconds{timeLimitSeconds, timeLimitSeconds};
-    setrlimit(RLIMIT_AS, &memory);
-    setrlimit(RLIMIT_CPU, &seconds);
+    using Outcome = RestrictedProcess::Outcome;
+    if (outcome == Outcome::TookTooLong)
+        return QStringLiteral("Drawing the file takes longer than 10 seconds.");
+    if (outcome == Outcome::IsMissing)
+        return QStringLiteral("The program that draws such files is not installed.");
+    if (messages.contains("Incorrect password"))
+        return QStringLiteral("The document is protected by a password.");
+    bool isTooLarge = outcome == Outcome::TookTooMuchSpace;
+    for (const char *const word : {"ut of memory", "bad_alloc", "VMerror", "limitcheck"})
+        isTooLarge = isTooLarge || messages.contains(word);
+    if (isTooLarge)
+        return QStringLiteral("Drawing the file takes more memory than it may have.");
+    return QString::fromUtf8(usual);
 }
 
-/// The interpreter lets drawings write where temporary files go; `folder` is all that it gets of that.
-bool runInterpreter(const QStringList &arguments, const QString &folder)
+constexpr const char *damaged = "The file is damaged, or is not what its name says.";
+
+/// How far a picture may leave its box where an interpreter rounds up. It answers for the size of its picture
+/// as little as for anything else.
+QSizeF withMargin(const QSizeF &box)
 {
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const QString &name : {QStringLiteral("TMPDIR"), QStringLiteral("TEMP"), QStringLiteral("TMP")})
-        environment.insert(name, folder);
-    process.setProcessEnvironment(environment);
-    process.setWorkingDirectory(folder);
-    process.setChildProcessModifier(limitProcess);
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
-    process.start(QStringLiteral("gs"), arguments);
-    if (!process.waitForFinished(timeLimitSeconds * 1000)) {
-        process.kill();
-        process.waitForFinished();
-        return false;
-    }
-    return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    return box + QSizeF(2, 2);
+}
+
+QImage pictureWithin(const QString &path, const QSizeF &box)
+{
+    const LazyImage picture = LazyImage::open(path, {});
+    const QSize size = picture.size();
+    const bool fits = size.width() <= box.width() && size.height() <= box.height();
+    const QImage image = fits ? picture.inSRGB().toImage() : QImage();
+    vips_error_clear();
+    return image;
+}
+
+/// Runs an interpreter that is to leave a picture in its folder.
+QImage drawnBy(const QString &program, const QStringList &arguments, RestrictedProcess &process,
+               const QString &target, const QSizeF &box, QString *reason)
+{
+    const RestrictedProcess::Outcome outcome = process.run(program, arguments);
+    const bool isDone = outcome == RestrictedProcess::Outcome::Done;
+    const QImage image = isDone ? pictureWithin(target, withMargin(box)) : QImage();
+    return image.isNull() ? refused(reason, reasonOf(outcome, process.messages(), damaged)) : image;
+}
+
+bool isPdf(const QString &path)
+{
+    // Readers look for the mark in so many bytes.
+    constexpr qint64 head = 1024;
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.read(head).contains("%PDF-");
 }
 
 } // namespace
 
 QImage rasterizePdf(const QString &path, const QSizeF &box, QString *reason)
 {
-    initializeVips();
-    const VipsImagePtr page = openPdf(path, 1);
-    if (!page) {
-        const QString text = takeVipsError();
-        return refused(reason, text.isEmpty()
-                                   ? QStringLiteral("The file is not a PDF document that can be read.")
-                                   : QStringLiteral("The document cannot be read (%1).").arg(text));
-    }
-    VipsImagePtr scaled = openPdf(path, scaleToTouch(QSizeF(page->Xsize, page->Ysize), box));
-    const LazyImage picture = scaled ? LazyImage::fromVips(std::move(scaled)).inSRGB() : LazyImage();
-    const QImage image = picture.toImage();
-    vips_error_clear();
-    return image.isNull() ? refused(reason, QStringLiteral("The document's first page cannot be drawn."))
-                          : image;
+    if (!isPdf(path))
+        return refused(reason, QStringLiteral("The file is not a PDF document."));
+    RestrictedProcess process;
+    const QString target = process.path(QStringLiteral("page"));
+    const auto pixels = [](double side) { return QString::number(int(side)); };
+    return drawnBy(QStringLiteral("pdftocairo"),
+                   {QStringLiteral("-png"), QStringLiteral("-singlefile"), QStringLiteral("-cropbox"),
+                    QStringLiteral("-f"), QStringLiteral("1"), QStringLiteral("-l"), QStringLiteral("1"),
+                    QStringLiteral("-scale-to"), pixels(std::min(box.width(), box.height())),
+                    QFileInfo(path).absoluteFilePath(), target},
+                   process, target + QStringLiteral(".png"), box, reason);
 }
 
 QImage rasterizeEps(const QString &path, const QSizeF &box, QString *reason)
 {
     const std::optional<QRectF> bounds = boundingBox(path);
-    const QTemporaryDir folder;
-    if (!bounds || !folder.isValid())
+    if (!bounds)
         return refused(reason, QStringLiteral("The file is not a PostScript drawing with a size."));
     constexpr double pointsPerInch = 72;
     const double resolution = pointsPerInch * scaleToTouch(bounds->size(), box);
-    const QString target = folder.filePath(QStringLiteral("page.png"));
-    const bool isDrawn = runInterpreter(
-        {QStringLiteral("-q"), QStringLiteral("-dSAFER"), QStringLiteral("-dBATCH"),
-         QStringLiteral("-dNOPAUSE"), QStringLiteral("-dEPSCrop"), QStringLiteral("-dLastPage=1"),
-         QStringLiteral("-dTextAlphaBits=4"), QStringLiteral("-dGraphicsAlphaBits=4"),
-         QStringLiteral("-sDEVICE=pngalpha"), QStringLiteral("-r%1").arg(resolution, 0, 'f', 4),
-         QStringLiteral("-sOutputFile=") + target, QStringLiteral("-f"), QFileInfo(path).absoluteFilePath()},
-        folder.path());
-    const QImage image = isDrawn ? LazyImage::open(target, {}).inSRGB().toImage() : QImage();
-    vips_error_clear();
-    return image.isNull() ? refused(reason, QStringLiteral("The PostScript drawing cannot be drawn."))
+    RestrictedProcess process;
+    const QString target = process.path(QStringLiteral("page.png"));
+    return drawnBy(QStringLiteral("gs"),
+                   {QStringLiteral("-q"), QStringLiteral("-dSAFER"), QStringLiteral("-dBATCH"),
+                    QStringLiteral("-dNOPAUSE"), QStringLiteral("-dEPSCrop"), QStringLiteral("-dLastPage=1"),
+                    QStringLiteral("-dTextAlphaBits=4"), QStringLiteral("-dGraphicsAlphaBits=4"),
+                    QStringLiteral("-sDEVICE=pngalpha"), QStringLiteral("-r%1").arg(resolution, 0, 'f', 4),
+                    QStringLiteral("-sOutputFile=") + target, QStringLiteral("-f"),
+                    QFileInfo(path).absoluteFilePath()},
+                   process, target, box, reason);
+}
+
+QImage rasterizeSvg(const QString &path, const QSizeF &box, QString *reason)
+{
+    RestrictedProcess process;
+    const QString target = process.path(QStringLiteral("pixels"));
+    const QString program = QCoreApplication::applicationDirPath() + QStringLiteral("/tessaro-svg");
+    const RestrictedProcess::Outcome outcome =
+        process.run(program, {QFileInfo(path).absoluteFilePath(),
+                              QString::number(std::min(box.width(), box.height())), target});
+    const bool isDone = outcome == RestrictedProcess::Outcome::Done;
+    const QImage image = isDone ? readRawPicture(target, withMargin(box)) : QImage();
+    return image.isNull() ? refused(reason, reasonOf(outcome, process.messages(),
+                                                     "The drawing has no size, or cannot be read."))
                           : image;
 }
 

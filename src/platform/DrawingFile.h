@@ -6,13 +6,17 @@
 
 namespace platform {
 
-/// Pages that other programs' interpreters draw. The first page is drawn so that it touches a box in pixels
-/// from inside, enlarged or reduced; null, with a sentence in `reason`, when it cannot be. Any thread.
+/// Drawings that interpreters make pictures of. The first page is drawn so that it touches a square box in
+/// pixels from inside, enlarged or reduced; null, with a sentence in `reason`, when it cannot be. Any thread.
+///
+/// Drawings are programs, or near enough: each interpreter is a process of its own, kept from the rest of the
+/// disk and held to 10 seconds and 1 GB.
 
 /// PDF, and Illustrator files, which hold one. Drawn on white paper.
 QImage rasterizePdf(const QString &path, const QSizeF &box, QString *reason = nullptr);
-/// PostScript with a bounding box, drawn on nothing. The interpreter is a process of its own, kept from the
-/// disk and held to 10 seconds and 1 GB.
+/// PostScript with a bounding box, drawn on nothing.
 QImage rasterizeEps(const QString &path, const QSizeF &box, QString *reason = nullptr);
+/// SVG, drawn on nothing by the program `tessaro-svg`, which lies beside the one that is running.
+QImage rasterizeSvg(const QString &path, const QSizeF &box, QString *reason = nullptr);
 
 } // namespace platform

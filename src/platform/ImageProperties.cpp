@@ -1,6 +1,7 @@
 #include "platform/ImageProperties.h"
 
 #include "platform/Exiv2Library.h"
+#include "platform/ImageSource.h"
 #include "platform/MetadataBlobs.h"
 
 #include <QFile>
@@ -102,9 +103,8 @@ void insertExif(QVariantMap &map, const Exiv2::ExifData &exif)
 
 QVariantMap imageProperties(const QString &path)
 {
-    initializeVips();
     initializeExiv2();
-    const VipsImagePtr image(vips_image_new_from_file(QFile::encodeName(path).constData(), nullptr));
+    const VipsImagePtr image = openImageSource(path);
     if (!image) {
         takeVipsError();
         return {};

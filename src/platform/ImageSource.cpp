@@ -18,7 +18,7 @@ struct SourceUnref {
 };
 using SourcePtr = std::unique_ptr<VipsSource, SourceUnref>;
 
-enum class Format { None, Jpeg, Paged, Other };
+enum class Format { None, Paged, Other };
 
 /// The decoders that photos are trusted to. The rest of the library's list reads scientific tables, slides or
 /// plain text, and would take almost any file for a picture.
@@ -28,8 +28,7 @@ Format formatOfLoader(const char *loader)
         const char *part;
         Format format;
     };
-    static constexpr std::array<Entry, 11> known = {{{"Jpeg", Format::Jpeg},
-                                                     {"Png", Format::Other},
+    static constexpr std::array<Entry, 10> known = {{{"Png", Format::Other},
                                                      {"Tiff", Format::Paged},
                                                      {"Nsgif", Format::Paged},
                                                      {"Webp", Format::Other},
@@ -69,6 +68,31 @@ int jpegShrinkFor(QSize stored, QSize wanted)
     return 1;
 }
 
+bool isJpeg(const SourcePtr &source)
+{
+    constexpr size_t markLength = 3;
+    const unsigned char *head = source ? vips_source_sniff(source.get(), markLength) : nullptr;
+    return head && std::memcmp(head, "\xFF\xD8\xFF", markLength) == 0;
+}
+
+/// Asked which decoder it takes, libvips lets each of them look at the file, which costs more than a header.
+VipsImagePtr loadJpeg(const QString &path, int shrink)
+{
+    const SourcePtr source = newSource(path);
+    VipsImage *out = nullptr;
+    if (!source || vips_jpegload_source(source.get(), &out, "access", VIPS_ACCESS_SEQUENTIAL, "fail_on",
+                                        VIPS_FAIL_ON_TRUNCATED, "shrink", shrink, nullptr))
+        return nullptr;
+    return VipsImagePtr(out);
+}
+
+VipsImagePtr openJpeg(const QString &path, QSize wanted)
+{
+    VipsImagePtr full = loadJpeg(path, 1);
+    const int shrink = full ? jpegShrinkFor({full->Xsize, full->Ysize}, wanted) : 1;
+    return shrink == 1 ? std::move(full) : loadJpeg(path, shrink);
+}
+
 VipsImagePtr load(const QString &path, const QByteArray &options)
 {
     const SourcePtr source = newSource(path);
@@ -81,7 +105,7 @@ VipsImagePtr load(const QString &path, const QByteArray &options)
 
 } // namespace
 
-VipsImagePtr openImageSource(const QString &path, int frame, QSize wanted)
+VipsImagePtr openImageSource(const QString &path, int frame, QSize wanted, int frames)
 {
     initializeVips();
     vips_error_clear();
@@ -92,6 +116,8 @@ VipsImagePtr openImageSource(const QString &path, int frame, QSize wanted)
         return nullptr;
     }
     const SourcePtr source = newSource(path);
+    if (isJpeg(source))
+        return openJpeg(path, wanted);
     const char *loader = source ? vips_foreign_find_load_source(source.get()) : nullptr;
     const Format format = loader ? formatOfLoader(loader) : Format::None;
     switch (format) {
@@ -102,15 +128,11 @@ VipsImagePtr openImageSource(const QString &path, int frame, QSize wanted)
         }
         return nullptr;
     case Format::Paged:
-        return load(path, "page=" + QByteArray::number(frame));
+        return load(path, "page=" + QByteArray::number(frame) + ",n=" + QByteArray::number(frames));
     case Format::Other:
-        return load(path, {});
-    case Format::Jpeg:
         break;
     }
-    VipsImagePtr full = load(path, {});
-    const int shrink = full ? jpegShrinkFor({full->Xsize, full->Ysize}, wanted) : 1;
-    return shrink == 1 ? std::move(full) : load(path, "shrink=" + QByteArray::number(shrink));
+    return load(path, {});
 }
 
 } // namespace platform

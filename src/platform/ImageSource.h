@@ -12,6 +12,7 @@ namespace platform {
 /// as long as the picture stays at least as large as `wanted`; an empty `wanted` asks for the full size.
 /// Nothing is answered for a file that is no picture of a known format; `takeVipsError()` tells why. A file
 /// that breaks off fails while its pixels are read.
-VipsImagePtr openImageSource(const QString &path, int frame = 0, QSize wanted = {});
+/// Several frames, which must be alike, come as one picture, one below the other.
+VipsImagePtr openImageSource(const QString &path, int frame = 0, QSize wanted = {}, int frames = 1);
 
 } // namespace platform

@@ -72,21 +72,34 @@ void TSDataManager::addItem(std::shared_ptr<TSImageBrowserItem> item)
         m_cache.insert(item->imageKey(), item->cgimage);
     }
     item->title = QFileInfo(item->path).fileName();
-    m_items.push_back(std::move(item));
+    enterItem(m_items.end(), std::move(item));
 }
 
 void TSDataManager::insertItem(std::shared_ptr<TSImageBrowserItem> item, qint64 index)
 {
     const Lock lock(m_itemsLock);
     const qint64 position = std::clamp<qint64>(index, 0, qint64(m_items.size()));
-    m_items.insert(m_items.begin() + position, std::move(item));
+    enterItem(m_items.begin() + position, std::move(item));
 }
 
 bool TSDataManager::isHasItem(const QString &path) const
 {
     const Lock lock(m_itemsLock);
-    return std::any_of(m_items.begin(), m_items.end(),
-                       [&](const auto &item) { return item->resourePath == path; });
+    return m_itemsOfSource.contains(path);
+}
+
+void TSDataManager::enterItem(Items::iterator place, std::shared_ptr<TSImageBrowserItem> item)
+{
+    ++m_itemsOfSource[item->resourePath];
+    m_items.insert(place, std::move(item));
+}
+
+void TSDataManager::leaveItem(Items::iterator place)
+{
+    const auto count = m_itemsOfSource.find((*place)->resourePath);
+    if (count != m_itemsOfSource.end() && --*count == 0)
+        m_itemsOfSource.erase(count);
+    m_items.erase(place);
 }
 
 void TSDataManager::removeItem(const std::shared_ptr<TSImageBrowserItem> &item)
@@ -96,7 +109,7 @@ void TSDataManager::removeItem(const std::shared_ptr<TSImageBrowserItem> &item)
     if (found == m_items.end())
         return;
     const qint64 index = found - m_items.begin();
-    m_items.erase(found);
+    leaveItem(found);
     TSPhotoManager *photos = TSPhotoManager::photoManager();
     const std::shared_ptr<TSPhoto> photo = photos->photoAtIndex(index);
     removeCachedPhoto(photo.get());

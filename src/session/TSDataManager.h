@@ -72,7 +72,8 @@ public:
     bool isDragging = false;
     bool isUpdate = false;
 
-    // The list of items. Out of range answers nothing, or changes nothing.
+    // The list of items. Out of range answers nothing, or changes nothing. The `resourePath` of an item does
+    // not change while the item is in the list.
     qint64 photoCount() const;
     std::shared_ptr<TSImageBrowserItem> itemAtIndex(qint64 index) const;
     /// Appends, gives the item its title, and puts a picture that it brings into the cache.
@@ -102,11 +103,17 @@ public:
     void removeCachedPhoto(const TSPhoto *photo);
 
 private:
+    using Items = std::vector<std::shared_ptr<TSImageBrowserItem>>;
+
+    void enterItem(Items::iterator place, std::shared_ptr<TSImageBrowserItem> item);
+    void leaveItem(Items::iterator place);
     void releaseCacheOfItem(TSImageBrowserItem &item);
 
     mutable std::recursive_mutex m_itemsLock;
     mutable std::recursive_mutex m_cacheLock;
-    std::vector<std::shared_ptr<TSImageBrowserItem>> m_items;
+    Items m_items;
+    /// How many items each file has in the list.
+    QHash<QString, qint64> m_itemsOfSource;
     QHash<QString, QImage> m_cache;
     std::set<const TSPhoto *> m_cachedPhotos;
 };

@@ -1,18 +1,15 @@
 #include "session/TSPhotoIntake.h"
 
 #include "platform/DrawingFile.h"
-#include "platform/ImageFile.h"
+#include "platform/FrameReader.h"
 #include "platform/ImageProperties.h"
 #include "session/TSDataManager.h"
 #include "session/TSFileUtility.h"
-#include "session/TSImageUtility.h"
 #include "session/TSPhotoManager.h"
-#include "session/TSQuartzUtility.h"
-#include "vector/TSSVGImage.h"
 
+#include <algorithm>
 #include <QDateTime>
 #include <QFileInfo>
-#include <QPainter>
 
 using enum TSRepresentationType;
 
@@ -44,19 +41,6 @@ QString reasonForRefusal(const QString &path)
     if (info.size() == 0)
         return QStringLiteral("The file is empty.");
     return QStringLiteral("The file is not a picture that can be read.");
-}
-
-QImage rasterizedSvg(const QString &path, const QSizeF &box)
-{
-    const auto drawing = TSSVGImage::imageWithContentsOfFile(path);
-    const QSizeF natural = drawing ? drawing->size() : QSizeF(0, 0);
-    const QSizeF size = TSFitSizeInBox(natural.width(), natural.height(), box.width(), box.height());
-    QImage surface = TSCreateBitmapContextCopy(size.width(), size.height());
-    if (surface.isNull())
-        return surface;
-    QPainter painter(&surface);
-    drawing->drawInRect(painter, QRectF(QPointF(0, 0), size));
-    return surface;
 }
 
 std::shared_ptr<TSImageBrowserItem> newItem(const QString &path)
@@ -93,7 +77,7 @@ std::shared_ptr<TSPhoto> newPhoto(const TSImageBrowserItem &item, qint64 index)
 
 void TSPhotoIntake::addItemsWithURLs(const QStringList &paths, bool isInsert)
 {
-    m_repeatedFileNames.clear();
+    clearRepeatedFileNames();
     for (const QString &path : paths) {
         if (processCanceled)
             return;
@@ -101,19 +85,38 @@ void TSPhotoIntake::addItemsWithURLs(const QStringList &paths, bool isInsert)
     }
 }
 
+QString TSPhotoIntake::repeatedFileNames() const
+{
+    const std::lock_guard lock(m_namesLock);
+    return m_repeatedFileNames;
+}
+
+void TSPhotoIntake::clearRepeatedFileNames()
+{
+    const std::lock_guard lock(m_namesLock);
+    m_repeatedFileNames.clear();
+}
+
 void TSPhotoIntake::addFile(const QString &path, bool isInsert)
 {
-    if (!TSIsImagePath(path))
+    const unsigned type = TSImageType(path);
+    // Properties are read with the header, and reading that twice would double the time of most photos.
+    const bool hasProperties = type == TSImageTypeCode::JPG;
+    const QVariantMap properties = hasProperties ? platform::imageProperties(path) : QVariantMap();
+    if (hasProperties ? properties.isEmpty() : !TSIsImagePath(path)) {
+        // It counts as handled all the same: the strip is brought up to date even if nothing else came.
+        isHasAddItem = true;
         return refuse(path, reasonForRefusal(path));
+    }
     if (!isAddItem(path))
         return refuse(path, QStringLiteral("The photo is in the list already."));
-    const unsigned type = TSImageType(path);
     if (TSIsVectorType(type))
         addDrawing(path, type, isInsert);
     else if (type == TSImageTypeCode::TIFF || type == TSImageTypeCode::GIF)
         addFrames(path, isInsert);
     else
-        addPlainFile(path, type, isInsert);
+        addPlainFile(path, properties, isInsert);
+    isHasAddItem = true;
 }
 
 bool TSPhotoIntake::isAddItem(const QString &path)
@@ -121,14 +124,15 @@ bool TSPhotoIntake::isAddItem(const QString &path)
     if (!TSDataManager::dataManager()->isHasItem(path))
         return true;
     const QString name = QFileInfo(path).fileName();
+    const std::lock_guard lock(m_namesLock);
     m_repeatedFileNames += m_repeatedFileNames.isEmpty() ? name : u',' + name;
     return false;
 }
 
 void TSPhotoIntake::addFrames(const QString &path, bool isInsert)
 {
-    const auto header = platform::readImageHeader(path);
-    const int frames = header ? header->frames : 0;
+    platform::FrameReader reader(path);
+    const int frames = reader.frameCount();
     if (frames == 0)
         return refuse(path, QStringLiteral("The file is not a picture that can be read."));
     // A cancelled intake finishes its file: half of the frames could not be completed later, since the file
@@ -138,7 +142,7 @@ void TSPhotoIntake::addFrames(const QString &path, bool isInsert)
         item->path = framePath(path, frame, frames);
         item->repType = IKImageBrowserCGImageRepresentationType;
         item->frameCount = quint64(frame);
-        item->cgimage = platform::decodeThumbnail(path, frameSide, frame);
+        item->cgimage = reader.nextThumbnail(frameSide);
         performAddItem(item, isInsert);
     }
 }
@@ -147,12 +151,15 @@ void TSPhotoIntake::addFrames(const QString &path, bool isInsert)
 /// that.
 void TSPhotoIntake::addDrawing(const QString &path, unsigned type, bool isInsert)
 {
+    const QFileInfo info(path);
+    if (!info.isFile() || !info.isReadable() || info.size() == 0)
+        return refuse(path, reasonForRefusal(path));
     const QSizeF box(frameSide, frameSide);
     const Item item = newItem(path);
-    QString reason = QStringLiteral("The drawing has no size, or cannot be read.");
+    QString reason;
     item->repType = IKImageBrowserCGImageRepresentationType;
     if (type == TSImageTypeCode::SVG)
-        item->cgimage = rasterizedSvg(path, box);
+        item->cgimage = platform::rasterizeSvg(path, box, &reason);
     else if (type == TSImageTypeCode::EPS)
         item->cgimage = platform::rasterizeEps(path, box, &reason);
     else
@@ -163,21 +170,21 @@ void TSPhotoIntake::addDrawing(const QString &path, unsigned type, bool isInsert
     performAddItem(item, isInsert);
 }
 
-void TSPhotoIntake::addPlainFile(const QString &path, unsigned type, bool isInsert)
+void TSPhotoIntake::addPlainFile(const QString &path, const QVariantMap &properties, bool isInsert)
 {
     const Item item = newItem(path);
     item->repType = IKImageBrowserPathRepresentationType;
-    if (type == TSImageTypeCode::JPG)
-        item->propertiesDic = platform::imageProperties(path);
+    item->propertiesDic = properties;
     performAddItem(item, isInsert);
 }
 
 void TSPhotoIntake::performAddItem(const Item &item, bool isInsert)
 {
-    if (isInsert)
-        insertItem(item);
+    const auto join = [&] { isInsert ? insertItem(item) : addItem(item); };
+    if (m_delegate)
+        m_delegate->photoIsReady(item->path, join);
     else
-        addItem(item);
+        join();
 }
 
 void TSPhotoIntake::addItem(const Item &item)
@@ -196,8 +203,10 @@ void TSPhotoIntake::addItem(const Item &item)
 void TSPhotoIntake::insertItem(const Item &item)
 {
     TSPhotoManager *photos = TSPhotoManager::photoManager();
-    const qint64 position = insertAtIndex++;
-    TSDataManager::dataManager()->insertItem(item, position);
+    TSDataManager *data = TSDataManager::dataManager();
+    const qint64 position = std::clamp<qint64>(insertAtIndex, 0, data->photoCount());
+    insertAtIndex = position + 1;
+    data->insertItem(item, position);
     if (m_rows)
         m_rows->photoWillJoin(position, photos->selectedPhoto());
     photos->insertDraggingPhoto(newPhoto(*item, position), position);

@@ -4,13 +4,18 @@
 #include "session/TSPhotoListObserver.h"
 
 #include <atomic>
+#include <functional>
 #include <memory>
+#include <mutex>
 #include <QStringList>
 
-/// What an intake tells while it runs, on the thread it runs on.
+/// What an intake tells while it runs, on the thread it runs on but for what is told from within `join`.
 class TSPhotoIntakeDelegate {
 public:
     virtual ~TSPhotoIntakeDelegate() = default;
+    /// A photo is read and waits for `join`, which changes the lists and the rows; whoever shows them may
+    /// have another thread do it. The path is the item's, which for a frame is made up.
+    virtual void photoIsReady(const QString &, const std::function<void()> &join) { join(); }
     virtual void photoWasAdded(const QString &path, qint64 index) = 0;
     /// A file that gave no photo, with a sentence that says why.
     virtual void fileWasRefused(const QString &path, const QString &reason) = 0;
@@ -27,13 +32,17 @@ public:
 
     /// Where the next photos go when they are inserted and not appended; moves on behind each of them.
     qint64 insertAtIndex = 0;
+    /// Looked at before each file; a file that is begun is finished.
     std::atomic<bool> processCanceled = false;
+    /// Whether a file was handled that is not a repeated one, be it that it was passed over as no picture.
+    bool isHasAddItem = false;
 
     /// Takes the files in, in the given order. Folders are not entered. What is no picture, or is in the list
     /// already, is passed over and the delegate told.
     void addItemsWithURLs(const QStringList &paths, bool isInsert);
-    /// The names of the files of this intake that were in the list already, joined by commas.
-    QString repeatedFileNames() const { return m_repeatedFileNames; }
+    /// The names of the files of this intake that were in the list already, joined by commas. Any thread.
+    QString repeatedFileNames() const;
+    void clearRepeatedFileNames();
 
 private:
     using Item = std::shared_ptr<TSImageBrowserItem>;
@@ -42,7 +51,7 @@ private:
     bool isAddItem(const QString &path);
     void addFrames(const QString &path, bool isInsert);
     void addDrawing(const QString &path, unsigned type, bool isInsert);
-    void addPlainFile(const QString &path, unsigned type, bool isInsert);
+    void addPlainFile(const QString &path, const QVariantMap &properties, bool isInsert);
     void performAddItem(const Item &item, bool isInsert);
     void addItem(const Item &item);
     void insertItem(const Item &item);
@@ -50,5 +59,6 @@ private:
 
     TSPhotoListObserver *m_rows;
     TSPhotoIntakeDelegate *m_delegate;
+    mutable std::mutex m_namesLock;
     QString m_repeatedFileNames;
 };

@@ -2,6 +2,7 @@
 
 #include "session/TSPhoto.h"
 
+#include <atomic>
 #include <memory>
 #include <mutex>
 #include <vector>
@@ -44,5 +45,5 @@ public:
 private:
     mutable std::recursive_mutex m_lock;
     std::vector<std::shared_ptr<TSPhoto>> m_photos;
-    qint64 m_selectedPhoto = -1;
+    std::atomic<qint64> m_selectedPhoto = -1;
 };

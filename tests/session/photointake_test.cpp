@@ -3,6 +3,7 @@
 #include "support/Session.h"
 
 #include <functional>
+#include <QElapsedTimer>
 
 namespace {
 
@@ -26,15 +27,34 @@ class PhotoIntakeTest : public SessionTest {
 protected:
     QString writePhoto(const QString &name) const { return session.writeJpeg(name, plainImage({16, 8})); }
 
+    static QColor colorOfPage(int page) { return QColor::fromHsv(page * 50 % 360, 255, 255); }
     /// The pages lie one below the other, as libvips wants them.
     QString writePages(const QString &name, int pages) const
     {
-        const platform::LazyImage lazy =
-            platform::LazyImage::fromImage(plainImage({20, 10 * pages}, Qt::red));
+        QImage roll = plainImage({20, 10 * pages});
+        for (int page = 0; page < pages; ++page)
+            QPainter(&roll).fillRect(0, 10 * page, 20, 10, colorOfPage(page));
+        const platform::LazyImage lazy = platform::LazyImage::fromImage(roll);
         vips_image_set_int(lazy.vips(), VIPS_META_PAGE_HEIGHT, 10);
         const QString path = session.path(name);
         EXPECT_EQ(vips_image_write_to_file(lazy.vips(), QFile::encodeName(path).constData(), nullptr), 0);
         return path;
+    }
+    // Drawings of 200 by 100.
+    static QByteArray eps(const QByteArray &body)
+    {
+        return "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 200 100\n" + body + "\nshowpage\n";
+    }
+    static QByteArray svg(const QByteArray &body) { return "<svg viewBox='0 0 200 100'>" + body + "</svg>"; }
+    /// Without a table of its objects, which readers make up for.
+    static QByteArray pdf(const QByteArray &body, const QByteArray &ofPage = {},
+                          const QByteArray &ofTrailer = {})
+    {
+        return "%PDF-1.4\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n"
+               "2 0 obj<</Type/Pages/Kids[3 0 R]/Count 1>>endobj\n"
+               "3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 200 100]/Contents 4 0 R" +
+               ofPage + ">>endobj\n4 0 obj<</Length " + QByteArray::number(body.size()) + ">>stream\n" +
+               body + "\nendstream endobj\ntrailer<</Root 1 0 R" + ofTrailer + ">>\n";
     }
     QStringList titles() const
     {
@@ -94,6 +114,7 @@ TEST_F(PhotoIntakeTest, EveryFrameIsAPhoto)
             EXPECT_EQ(item->resourePath, path);
             EXPECT_EQ(item->path, path + u'/' + labels[frame]);
             EXPECT_EQ(item->cgimage.size(), QSize(20, 10));
+            EXPECT_EQ(extentOf(item->cgimage, colorOfPage(frame)), QRect(0, 0, 20, 10));
             session.data.GetPhotoSize(frame);
             EXPECT_EQ(session.photos.photoAtIndex(frame)->photoSize, QSizeF(20, 10));
         }
@@ -103,12 +124,80 @@ TEST_F(PhotoIntakeTest, EveryFrameIsAPhoto)
     }
 }
 
+TEST_F(PhotoIntakeTest, FramesThatDifferKeepWhatIsTheirs)
+{
+    QByteArray bytes = bytesOf(writePages(QStringLiteral("two.tif"), 2));
+    const qsizetype orientation = bytes.lastIndexOf(QByteArray("\x12\x01\x03\x00\x01\x00\x00\x00", 8));
+    ASSERT_GT(orientation, 0);
+    bytes[orientation + 8] = 6;
+    m_intake.addItemsWithURLs({session.write(QStringLiteral("turned.tif"), bytes)}, false);
+    ASSERT_EQ(session.data.photoCount(), 2);
+    EXPECT_EQ(session.data.itemAtIndex(0)->cgimage.size(), QSize(20, 10));
+    EXPECT_EQ(session.data.itemAtIndex(1)->cgimage.size(), QSize(10, 20));
+}
+
 TEST_F(PhotoIntakeTest, CancellingFinishesTheFileAtHand)
 {
     m_notes.onAdded = [this] { m_intake.processCanceled = true; };
     m_intake.addItemsWithURLs({writePages(QStringLiteral("a.tif"), 3), writePhoto(QStringLiteral("b.jpg"))},
                               false);
     EXPECT_EQ(session.data.photoCount(), 3);
+}
+
+TEST_F(PhotoIntakeTest, DrawingsTouchABoxOf2000)
+{
+    // Entities that grow and files that it refers to are left out; what stands before them is drawn.
+    const QByteArray entities = "<!DOCTYPE svg [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b '" +
+                                QByteArray("&a;").repeated(1000) +
+                                "'><!ENTITY x SYSTEM 'file:///dev/zero'>]>";
+    const QByteArray square = "<rect x='0' y='0' width='100' height='100' fill='#ff0000'/>";
+    const std::tuple<const char *, QByteArray, QSize, QColor> cases[] = {
+        {"a.eps", eps("1 0 0 setrgbcolor 0 0 100 100 rectfill"), {2000, 1000}, Qt::transparent},
+        {"a.svg", svg(square), {2000, 1000}, Qt::transparent},
+        {"b.svg", entities + svg(square + "<text>&x;&b;</text>"), {2000, 1000}, Qt::transparent},
+        {"a.PDF", pdf("1 0 0 rg 0 0 100 100 re f"), {2000, 1000}, Qt::white},
+        {"a.ai", pdf("1 0 0 rg 0 0 100 100 re f", "/Rotate 90"), {1000, 2000}, Qt::white},
+    };
+    for (const auto &[name, bytes, size, paper] : cases) {
+        session.data.removeAllPhotos();
+        m_intake.addItemsWithURLs({session.write(QString::fromLatin1(name), bytes)}, false);
+        EXPECT_EQ(m_notes.refused, QStringList()) << name;
+        ASSERT_EQ(session.data.photoCount(), 1) << name;
+        const auto item = session.data.itemAtIndex(0);
+        EXPECT_EQ(item->frameSize, QSizeF(size));
+        EXPECT_EQ(extentOf(item->cgimage, Qt::red), QRect(0, 0, 1000, 1000)) << name;
+        EXPECT_EQ(item->cgimage.pixelColor(size.width() - 5, size.height() - 5), paper) << name;
+    }
+}
+
+TEST_F(PhotoIntakeTest, HostileDrawingsAreRefusedInTime)
+{
+    const QString outside = session.path(QStringLiteral("outside"));
+    const QByteArray key(32, 'x');
+    const char *const damaged = "The file is damaged, or is not what its name says.";
+    const std::tuple<const char *, QByteArray, const char *> cases[] = {
+        {"empty.ai", "", "The file is empty."},
+        {"words.pdf", "words", "The file is not a PDF document."},
+        {"head.pdf", "%PDF-1.4\n", damaged},
+        {"locked.pdf",
+         pdf("", "", "/ID[(a)(a)]/Encrypt<</Filter/Standard/V 1/R 2/P -4/O(" + key + ")/U(" + key + ")>>"),
+         "The document is protected by a password."},
+        {"none.svg", "<svg/>", "The drawing has no size, or cannot be read."},
+        {"none.eps", "%!PS\nshowpage", "The file is not a PostScript drawing with a size."},
+        {"write.eps", eps("(" + outside.toUtf8() + ") (w) file closefile"), damaged},
+        {"larger-than-told.eps", eps("<< /PageSize [400 400] >> setpagedevice"), damaged},
+        {"loop.eps", eps("{} loop"), "Drawing the file takes longer than 10 seconds."},
+    };
+    for (const auto &[name, bytes, reason] : cases) {
+        m_notes.refused.clear();
+        QElapsedTimer clock;
+        clock.start();
+        m_intake.addItemsWithURLs({session.write(QString::fromLatin1(name), bytes)}, false);
+        EXPECT_LT(clock.elapsed(), 10000) << name;
+        EXPECT_EQ(session.data.photoCount(), 0) << name;
+        EXPECT_EQ(m_notes.refused, QStringList(QString::fromLatin1(reason))) << name;
+    }
+    EXPECT_FALSE(QFile::exists(outside));
 }
 
 TEST_F(PhotoIntakeTest, NewPhotosTakeTheSelectedPhotosRow)

@@ -24,9 +24,8 @@ protected:
     TSPhoto &addOnly(TSImageBrowserItem item)
     {
         session.data.removeAllPhotos();
-        session.addPhotos(1);
-        *session.data.itemAtIndex(0) = std::move(item);
-        *session.photos.photoAtIndex(0) = TSPhoto();
+        session.data.insertItem(std::make_shared<TSImageBrowserItem>(std::move(item)), 0);
+        session.photos.insertPhoto(std::make_shared<TSPhoto>(), 0);
         return *session.photos.photoAtIndex(0);
     }
 };

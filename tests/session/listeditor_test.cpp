@@ -1,0 +1,188 @@
+#include "overlays/TSText.h"
+#include "session/TSPhotoListEditor.h"
+#include "support/PhotoListViews.h"
+#include "support/Session.h"
+
+namespace {
+
+class ListEditorTest : public SessionTest {
+protected:
+    /// Photos whose numbers are their rows in a plain text and a Script text.
+    void begin(int count)
+    {
+        session.data.removeAllPhotos();
+        session.overlays.removeAllOverlay();
+        session.setCanvas({0, 0, 100, 100});
+        session.addPhotos(count);
+        m_text = std::make_shared<TSText>(QStringLiteral("text"));
+        m_script = std::make_shared<TSText>(QStringLiteral("script"));
+        m_script->setTextType(TSTextType::Script);
+        for (const auto &text : {m_text, m_script}) {
+            session.overlays.addOverlay(text);
+            for (int row = 0; row < count; ++row) {
+                text->setXPixel(row);
+                text->setYPixel(row);
+                text->setAngle(row);
+                text->setWmAlignment(unsigned(row));
+                text->setRatioOfFrameByAlignment(QRectF(row, 0, 1, 1));
+                text->setScriptOrigin(QPointF(row, 0));
+                text->appendRow();
+                text->oldRatioOfFrameByAlignmentArray.resize(size_t(row) + 1, QRectF(row, 0, 1, 1));
+            }
+        }
+    }
+    /// The photos' numbers in order of the list.
+    std::string photos() const
+    {
+        std::string names;
+        for (qint64 i = 0; i < session.data.photoCount(); ++i) {
+            EXPECT_EQ(session.photos.photoAtIndex(i)->path, session.data.itemAtIndex(i)->path);
+            EXPECT_EQ(session.photos.photos()[size_t(i)]->index, i);
+            names += session.data.itemAtIndex(i)->path.section(u'/', -1).at(0).toLatin1();
+        }
+        return names;
+    }
+    template <typename T, typename Number>
+    static std::string digits(const std::vector<T> &rows, Number number)
+    {
+        std::string text;
+        for (const T &row : rows)
+            text += char('0' + int(number(row)));
+        return text;
+    }
+    /// The rows of both texts, which must agree; those of old ratios follow for a Script text alone.
+    std::string rows(const std::string &oldRatiosOfText) const
+    {
+        const auto number = [](auto value) { return value; };
+        const auto left = [](const auto &value) { return value.x(); };
+        const std::string told = digits(m_text->xPixelArray, number);
+        for (const auto &text : {m_text, m_script}) {
+            EXPECT_EQ(digits(text->xPixelArray, number), told);
+            EXPECT_EQ(digits(text->yPixelArray, number), told);
+            EXPECT_EQ(digits(text->angleArray, number), told);
+            EXPECT_EQ(digits(text->wmAlignmentArray, number), told);
+            EXPECT_EQ(digits(text->ratioOfFrameByAlignmentArray, left), told);
+            EXPECT_EQ(digits(text->scriptOriginArray, left), told);
+        }
+        EXPECT_EQ(digits(m_text->oldRatioOfFrameByAlignmentArray, left), oldRatiosOfText);
+        EXPECT_EQ(digits(m_script->oldRatioOfFrameByAlignmentArray, left), told);
+        return told;
+    }
+
+    std::shared_ptr<TSText> m_text;
+    std::shared_ptr<TSText> m_script;
+    PhotoListViews m_views;
+    TSPhotoListEditor m_editor{session.overlays, m_views, m_views};
+};
+
+constexpr const char *confirmation = "confirm RemoveAllPhotosTitle RemoveAllPhotos|";
+
+} // namespace
+
+TEST_F(ListEditorTest, RemovalTakesThePhotoAndItsRow)
+{
+    const struct {
+        std::set<qint64> selection;
+        const char *photos;
+        const char *rows;
+        const char *select;
+    } cases[] = {{{1}, "023", "023", "reload|select 1|"},
+                 {{3}, "012", "012", "reload|select 2|"},
+                 {{}, "0123", "0123", ""},
+                 {{1, 2}, "03", "023", "reload|select 1|"}};
+    for (const auto &[selection, left, rowsLeft, select] : cases) {
+        begin(4);
+        m_views.selection = selection;
+        session.data.isSelectedPhotoChanged = false;
+        int changes = 0;
+        const auto heard = QObject::connect(&session.center, &TSNotificationCenter::overlaysChanged,
+                                            [&changes] { ++changes; });
+        m_editor.removePhotoAction();
+        QObject::disconnect(heard);
+        EXPECT_EQ(photos(), left);
+        EXPECT_EQ(rows("0123"), rowsLeft);
+        EXPECT_EQ(m_views.takeLog(), lines(select) + lines("no filling|start view|select rows"));
+        EXPECT_TRUE(session.data.isSelectedPhotoChanged);
+        EXPECT_EQ(changes, 1);
+    }
+}
+
+TEST_F(ListEditorTest, TheOverlaysGoWithTheLastPhoto)
+{
+    begin(1);
+    m_views.selection = {0};
+    m_views.answer = false;
+    m_editor.removePhotoAction();
+    m_editor.removeAllPhotosAction();
+    EXPECT_EQ(m_views.takeLog(), lines(confirmation) + lines(confirmation));
+    EXPECT_EQ(photos(), "0");
+    EXPECT_EQ(session.overlays.overlayCount(), 2);
+
+    m_views.answer = true;
+    m_editor.removePhotoAction();
+    EXPECT_EQ(m_views.takeLog(),
+              lines(confirmation) + lines("reload|remove false|hide list|no selection|reload|no editing|"
+                                          "update list|no filling|start view|select rows"));
+    EXPECT_EQ(session.data.photoCount() + session.photos.photoCount() + session.overlays.overlayCount(), 0);
+    EXPECT_FALSE(session.data.isRemoveAllPhotos);
+
+    begin(3);
+    m_editor.removeAllPhotosAction();
+    EXPECT_EQ(m_views.takeLog(),
+              lines(confirmation) + lines("no filling|no selection|reload|remove false|no editing|hide list|"
+                                          "update list|start view"));
+    EXPECT_EQ(session.data.photoCount() + session.photos.photoCount() + session.overlays.overlayCount(), 0);
+    EXPECT_TRUE(session.data.isRemoveAllPhotos);
+}
+
+TEST_F(ListEditorTest, MovesCountPlacesBeforeTheMove)
+{
+    const struct {
+        std::set<qint64> from;
+        qint64 to;
+        const char *order;
+    } cases[] = {{{0}, 3, "12034"}, {{0}, 5, "12340"}, {{3}, 1, "03124"}, {{4}, 0, "40123"},
+                 {{2}, 2, "01234"}, {{2}, 3, "01234"}, {{9}, 1, "01234"}, {{}, 1, "01234"}};
+    for (const auto &[from, to, order] : cases) {
+        begin(5);
+        session.photos.setSelectedPhoto(2);
+        EXPECT_TRUE(m_editor.moveItemsAtIndexes(from, to));
+        EXPECT_EQ(photos(), order);
+        EXPECT_EQ(rows("01234"), order);
+        EXPECT_EQ(session.photos.selectedPhoto(), 2) << "the strip's selection tells it";
+    }
+    begin(5);
+    m_editor.moveItemsAtIndexes({1, 3}, 5);
+    EXPECT_EQ(photos(), "02413");
+    EXPECT_EQ(m_editor.writeItemsAtIndexes({0, 4, 9}), lines("/photos/0.jpg|/photos/3.jpg"));
+}
+
+TEST_F(ListEditorTest, PhotosWithoutTheirFilesGoAndTheirRowsStay)
+{
+    const char *const alert = "alert Source don't exist delete no source file image";
+    begin(4);
+    for (qint64 i = 0; i < session.data.photoCount(); ++i)
+        session.data.itemAtIndex(i)->path = session.photos.photoAtIndex(i)->path =
+            session.write(QStringLiteral("%1.jpg").arg(i), "x");
+    m_views.selection = {2};
+    m_editor.removeItemsWithoutSource();
+    EXPECT_EQ(m_views.takeLog(), QStringList());
+    for (const char *const name : {"0.jpg", "2.jpg"})
+        QFile::remove(session.path(QString::fromLatin1(name)));
+    m_views.selection.clear();
+    m_editor.removeItemsWithoutSource();
+    EXPECT_EQ(photos(), "0123") << "without a selection nothing is looked for";
+    m_views.selection = {2};
+    m_editor.removeItemsWithoutSource();
+    EXPECT_EQ(photos(), "13");
+    EXPECT_EQ(rows("0123"), "0123");
+    EXPECT_EQ(m_views.takeLog(), lines("release|reload|select 1") + QStringList(QString::fromLatin1(alert)));
+
+    QDir(session.folder.path()).removeRecursively();
+    m_views.answer = false;
+    m_editor.removeItemsWithoutSource();
+    EXPECT_EQ(photos(), "");
+    EXPECT_EQ(session.overlays.overlayCount(), 2);
+    EXPECT_EQ(m_views.takeLog(),
+              lines("release") + lines(confirmation) + QStringList(QString::fromLatin1(alert)));
+}
