@@ -8,11 +8,14 @@ function(tessaro_room name)
     target_link_libraries(${name} PUBLIC ${ARGN})
 endfunction()
 
-# A test program links only the room it tests, so that a room that leans on a higher one fails to link.
+# A test program links only the room it tests, so that a room that leans on a higher one fails to link. A third
+# argument names another main than the usual one.
 function(tessaro_test name room)
+    set(support ${ARGN} test-support)
+    list(GET support 0 support)
     add_executable(${name} ${name}.cpp)
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-    target_link_libraries(${name} PRIVATE ${room} test-support GTest::gtest)
+    target_link_libraries(${name} PRIVATE ${room} ${support} GTest::gtest)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 300
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/lsan.supp;ASAN_OPTIONS=detect_odr_violation=0;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/tsan.supp")

@@ -3,6 +3,12 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QTemporaryDir>
+#ifdef TESSARO_TEST_WIDGETS
+#include <QApplication>
+using TestApplication = QApplication;
+#else
+using TestApplication = QGuiApplication;
+#endif
 
 /// Fonts need an application object, and the tests share one; the platform without screens serves them
 /// everywhere.
@@ -16,7 +22,7 @@ int main(int argc, char **argv)
     const QTemporaryDir home;
     for (const char *folder : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"})
         qputenv(folder, QFile::encodeName(home.filePath(QString::fromLatin1(folder))));
-    QGuiApplication application(argc, argv);
+    TestApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }
