@@ -10,6 +10,7 @@ TSPreview::TSPreview(TSPreviewView &view)
     , m_layout(view)
     , m_selection(view, m_trackerState)
     , m_creation(m_layout, view, m_selection, m_trackerState)
+    , m_offset(m_selection, view)
     , m_trackerLayer(m_trackerState, m_selection, m_creation)
     , m_pointing(m_layout, view, m_overlaysLayer, m_selection, m_trackerState, m_gesture)
     , m_dragging(m_layout, view, m_selection, m_trackerState, m_gesture)
@@ -27,6 +28,8 @@ void TSPreview::observe()
                      [this] { m_presenter.redrawAfterWindowChangeOrZooming(); });
     QObject::connect(center, &Center::TSCirclePositionChanged, &m_listener,
                      [this](const QSizeF &positionRatio) { circlePositionChanged(positionRatio); });
+    QObject::connect(center, &Center::TSChangeWatermarkPostion, &m_listener,
+                     [this] { m_offset.changeWatermarkPostion(m_trackerLayer.currentKey()); });
     QObject::connect(center, &Center::TSResizingPhotoView, &m_listener,
                      [this] { m_presenter.resizingPhotoView(); });
     QObject::connect(center, &Center::TSHoverTableViewDeleteKeyDown, &m_listener,

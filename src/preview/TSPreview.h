@@ -5,6 +5,7 @@
 #include "preview/TSDragging.h"
 #include "preview/TSGesture.h"
 #include "preview/TSOverlayCreation.h"
+#include "preview/TSOverlayOffset.h"
 #include "preview/TSOverlaysLayer.h"
 #include "preview/TSPointing.h"
 #include "preview/TSSelection.h"
@@ -28,6 +29,7 @@ public:
     TSZoomList &zoomList() { return m_zoomList; }
     TSSelection &selection() { return m_selection; }
     TSOverlayCreation &creation() { return m_creation; }
+    TSOverlayOffset &offset() { return m_offset; }
     TSOverlaysLayer &overlaysLayer() { return m_overlaysLayer; }
     TSTrackerLayer &trackerLayer() { return m_trackerLayer; }
     TSTrackerState &trackerState() { return m_trackerState; }
@@ -55,6 +57,7 @@ private:
     TSOverlaysLayer m_overlaysLayer;
     TSSelection m_selection;
     TSOverlayCreation m_creation;
+    TSOverlayOffset m_offset;
     TSTrackerLayer m_trackerLayer;
     TSPointing m_pointing;
     TSDragging m_dragging;

@@ -1,0 +1,62 @@
+#include "support/PreviewSession.h"
+
+namespace {
+
+class OffsetTest : public PreviewTest {
+protected:
+    void pressKey(int key) { preview.trackerLayer().keyDown(key); }
+};
+
+} // namespace
+
+/// The canvas is 1000 by 800 points at (0, 0), half a point a pixel.
+TEST_F(OffsetTest, ArrowsTakeAStepInTheUnitOfTheSession)
+{
+    const struct {
+        unsigned unit;
+        QRectF frame;
+        int key;
+        QPointF corner;
+    } cases[] = {
+        // From the bottom right, a quarter of a percent of 1000 or 800 points.
+        {TSOffsetUnit::Percentage, {880, 740, 100, 40}, Qt::Key_Left, {877.5, 740}},
+        {TSOffsetUnit::Percentage, {880, 740, 100, 40}, Qt::Key_Right, {882.5, 740}},
+        {TSOffsetUnit::Percentage, {880, 740, 100, 40}, Qt::Key_Up, {880, 738}},
+        {TSOffsetUnit::Percentage, {880, 740, 100, 40}, Qt::Key_Down, {880, 742}},
+        // What is shown has two decimals, and the step starts from it: 1.23 %.
+        {TSOffsetUnit::Percentage, {12.34, 20, 100, 40}, Qt::Key_Right, {14.8, 20}},
+        // In pixels only the way back to the anchor leads anywhere.
+        {TSOffsetUnit::Pixel, {880, 740, 100, 40}, Qt::Key_Right, {880.5, 740}},
+        {TSOffsetUnit::Pixel, {880, 740, 100, 40}, Qt::Key_Left, {880, 740}},
+        {TSOffsetUnit::Pixel, {0, 20, 100, 40}, Qt::Key_Right, {0, 20}},
+        {TSOffsetUnit::Pixel, {10, 20, 100, 40}, Qt::Key_Up, {10, 19.5}},
+        {TSOffsetUnit::Percentage, {880, 740, 100, 40}, Qt::Key_A, {880, 740}},
+    };
+    for (const auto &each : cases) {
+        session.overlays.removeAllOverlay();
+        session.setCanvas({0, 0, 1000, 800}, 0.5);
+        session.data.pUnit = each.unit;
+        const auto overlay = put('A', each.frame);
+        overlay->updateAlignmentAndRatio();
+        preview.selection().selectOverlay(overlay);
+        pressKey(each.key);
+        expectNear(overlay->frame().topLeft(), each.corner, 1e-4);
+        EXPECT_EQ(overlay->frame().size(), each.frame.size());
+    }
+}
+
+TEST_F(OffsetTest, SeveralMoveAsOneBlock)
+{
+    session.setCanvas({0, 0, 1000, 800}, 0.5);
+    const auto a = put('A', {700, 600, 100, 40}), b = put('B', {880, 740, 100, 40});
+    preview.selection().selectAllOverlays();
+    expectNear(preview.offset().offsetByPercentage(), {-2, -2.5});
+    EXPECT_EQ(preview.offset().offsetByPixel(), QPoint(-40, -40));
+    preview.offset().changeXOffsetByPercentage(-10);
+    expectNear(a->frame().topLeft(), {620, 600}, 1e-4);
+    expectNear(b->frame().topLeft(), {800, 740}, 1e-4);
+    preview.offset().changeYOffsetByPixel(0);
+    expectNear(a->frame().topLeft(), {620, 620}, 1e-4);
+    expectNear(b->frame().topLeft(), {800, 760}, 1e-4);
+    EXPECT_EQ(a->wmAlignment(), TSPositionCode::RightBottom);
+}
