@@ -1,0 +1,19 @@
+#include "controls/TSStyle.h"
+#include "shell/TSAppDelegate.h"
+
+#include <QApplication>
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Tessaro"));
+    QApplication::setApplicationVersion(QStringLiteral(TESSARO_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("org.tessaro.Tessaro"));
+    TSStyle::apply();
+    TSAppDelegate::installTranslations();
+    TSAppDelegate delegate;
+    if (!delegate.becomeTheOnlyOne())
+        return 0;
+    delegate.applicationDidFinishLaunching();
+    return QApplication::exec();
+}

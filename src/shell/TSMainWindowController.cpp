@@ -1,0 +1,384 @@
+#include "shell/TSMainWindowController.h"
+
+#include "controls/TSSegmentedControl.h"
+#include "overlays/TSOverlayManager.h"
+#include "platform/UserDefaults.h"
+#include "session/TSDataManager.h"
+#include "session/TSDefaults.h"
+#include "session/TSNotificationCenter.h"
+#include "session/TSPhoto.h"
+#include "session/TSPhotoManager.h"
+#include "ui/photos/TSPhotoStripView.h"
+#include "ui/preview/TSPreviewScrollView.h"
+
+#include <cmath>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QListView>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QTimer>
+
+namespace {
+
+/// As many as a message can hold and still be read.
+constexpr qsizetype longestList = 8;
+constexpr const char *auxiliaryLineKey = "WatermarkAuxiliaryLine";
+
+TSDataManager *session()
+{
+    return TSDataManager::dataManager();
+}
+
+} // namespace
+
+TSMainWindowController::TSMainWindowController() : m_window(std::make_unique<TSMainWindow>())
+{
+    using namespace std::chrono_literals;
+    m_window->showStartView(true);
+    connect(m_window.get(), &TSMainWindow::windowShouldClose, m_window.get(), &QWidget::hide);
+    connect(m_window.get(), &TSMainWindow::filesDropped, this, &TSMainWindowController::addPhotos);
+    connect(m_window->startButton, &QPushButton::clicked, this, &TSMainWindowController::loadPhotoAction);
+    updateScBatchAdjust();
+    validateActions();
+    QTimer::singleShot(500ms, this, &TSMainWindowController::updateUIAndData);
+}
+
+TSMainWindowController::~TSMainWindowController()
+{
+    // Threads that work on the session end before what they tell of it goes.
+    m_photoIntake.reset();
+    m_cacheFiller.reset();
+}
+
+TSPreview &TSMainWindowController::preview()
+{
+    return m_window->preview->preview();
+}
+
+void TSMainWindowController::updateUIAndData()
+{
+    initListView();
+    initPreview();
+    initActions();
+    initZoomList();
+    initObserver();
+    validateActions();
+    if (!m_waitingPhotos.isEmpty())
+        addPhotos(std::exchange(m_waitingPhotos, {}));
+}
+
+void TSMainWindowController::initListView()
+{
+    TSPhotoStripView &strip = *m_window->photoStrip;
+    m_cacheFiller = std::make_unique<TSCacheFiller>();
+    m_photoListEditor = std::make_unique<TSPhotoListEditor>(*TSOverlayManager::overlayManager(), strip,
+                                                            static_cast<TSPhotoListEditorHost &>(*this));
+    m_photoIntake = std::make_unique<TSPhotoIntakeController>(TSOverlayManager::overlayManager(), strip,
+                                                              static_cast<TSPhotoIntakeHost &>(*this));
+    connect(&strip, &TSPhotoStripView::startViewShouldUpdate, this, &TSMainWindowController::updateStartView);
+    connect(&strip, &TSPhotoStripView::cacheImagesWasCancelled, m_cacheFiller.get(),
+            &TSCacheFiller::cancelCacheImages);
+    connect(strip.btAddPhotos(), &QPushButton::clicked, this, &TSMainWindowController::loadPhotoAction);
+    connect(strip.btRemove(), &QPushButton::clicked, this,
+            [this] { m_photoListEditor->removePhotoAction(); });
+    connect(strip.btRemoveAll(), &QPushButton::clicked, this,
+            [this] { m_photoListEditor->removeAllPhotosAction(); });
+    const TSImageBrowserView *list = strip.ibvList();
+    connect(list, &TSImageBrowserView::selectionDidChange, this,
+            &TSMainWindowController::imageBrowserSelectionDidChange);
+    connect(list, &TSImageBrowserView::removeItemsAtIndex, this,
+            &TSMainWindowController::removePhotosWithSelection);
+    connect(list, &TSImageBrowserView::moveItemAtIndex, this, [this](int from, int to) {
+        m_photoListEditor->moveItemsAtIndexes({from}, to);
+        m_window->photoStrip->reloadData();
+        m_window->photoStrip->setSelectionIndex(from < to ? to - 1 : to);
+    });
+    connect(list, &TSImageBrowserView::filesDropped, this, [this](const QList<QUrl> &urls, int index) {
+        m_photoIntake->addPhotosFromBrowserViewDragging(urls, index);
+    });
+}
+
+void TSMainWindowController::initPreview()
+{
+    connect(m_window->preview, &TSPreviewScrollView::zoomListChanged, this,
+            &TSMainWindowController::showZoomList);
+    connect(m_window->pubZooming, &QComboBox::activated, this, &TSMainWindowController::zoomingTheSize);
+}
+
+void TSMainWindowController::initActions()
+{
+    TSMainWindow &window = *m_window;
+    m_layouts = std::make_unique<TSLayoutController>(window, preview());
+    m_export = std::make_unique<TSExportController>(window);
+    connect(window.loadPhotoAction, &QAction::triggered, this, &TSMainWindowController::loadPhotoAction);
+    connect(window.removePhotoAction, &QAction::triggered, this,
+            [this] { m_photoListEditor->removePhotoAction(); });
+    connect(window.removeAllPhotosAction, &QAction::triggered, this,
+            [this] { m_photoListEditor->removeAllPhotosAction(); });
+    connect(window.exportPhotos, &QAction::triggered, this, [this] { m_export->exportPhotos(); });
+    connect(window.selectAll, &QAction::triggered, this,
+            [this] { preview().selection().selectAllOverlays(); });
+    connect(window.deleteOverlay, &QAction::triggered, this,
+            [this] { preview().creation().deleteEditingOverlay(); });
+    connect(window.addTextAction, &QAction::triggered, this,
+            [this] { preview().creation().createNewText(); });
+    connect(window.addStickerAction, &QAction::triggered, this,
+            &TSMainWindowController::addStickerFromFinder);
+    connect(window.openProfileAction, &QAction::triggered, this, [this] { m_layouts->openProfileAction(); });
+    connect(window.openSaveProfile, &QAction::triggered, this, [this] { m_layouts->openSaveProfile(); });
+    connect(window.scBatchAdjust, &TSSegmentedControl::segmentChanged, this,
+            [](int segment) { TSSetBatchControlOverlay(segment == 0); });
+    connect(m_layouts.get(), &TSLayoutController::profileDidApply, this,
+            &TSMainWindowController::updateScBatchAdjust);
+    connect(window.preferencesAction, &QAction::triggered, this, &TSMainWindowController::preferencesAction);
+    bindSnapping(window.itemAutoSnap, "WatermarkAutoSnap");
+    bindSnapping(window.itemAutoSnapToPhoto, "WatermarkAutoSnapToPhoto");
+    bindSnapping(window.itemAutoSnapToObjects, "WatermarkAutoSnapToObjects");
+    connect(window.itemAuxiliaryLine, &QAction::triggered, this, &TSMainWindowController::auxiliaryLine);
+    updateAuxiliaryLineTitle();
+}
+
+void TSMainWindowController::bindSnapping(QAction *action, const char *key)
+{
+    const QString name = QLatin1String(key);
+    action->setChecked(platform::UserDefaults::standard().boolForKey(name));
+    connect(action, &QAction::toggled, this,
+            [name](bool isOn) { platform::UserDefaults::standard().setBool(name, isOn); });
+}
+
+void TSMainWindowController::preferencesAction()
+{
+    if (!m_preferences)
+        m_preferences = new TSPreferencesWindowController(m_window.get());
+    m_preferences->show();
+    m_preferences->raise();
+}
+
+void TSMainWindowController::auxiliaryLine()
+{
+    platform::UserDefaults &defaults = platform::UserDefaults::standard();
+    const QString key = QLatin1String(auxiliaryLineKey);
+    defaults.setBool(key, !defaults.boolForKey(key));
+    updateAuxiliaryLineTitle();
+    m_window->preview->viewport()->update();
+}
+
+void TSMainWindowController::updateAuxiliaryLineTitle()
+{
+    const bool isShown = platform::UserDefaults::standard().boolForKey(QLatin1String(auxiliaryLineKey));
+    m_window->itemAuxiliaryLine->setText(isShown ? QStringLiteral("Hide Auxiliary Line")
+                                                 : QStringLiteral("Show Auxiliary Line"));
+}
+
+void TSMainWindowController::initZoomList()
+{
+    const QStringList titles = preview().zoomList().itemTitles();
+    QComboBox &list = *m_window->pubZooming;
+    for (const QString &title : titles)
+        if (!title.isEmpty() || list.count() == 0)
+            list.addItem(title);
+        else
+            list.insertSeparator(list.count());
+    // The first item only shows the zoom in force.
+    if (auto *view = qobject_cast<QListView *>(list.view()))
+        view->setRowHidden(0, true);
+    for (size_t item = 0; item < m_window->menuItems.size(); ++item)
+        connect(m_window->menuItems[item], &QAction::triggered, this, [this, item] {
+            preview().presenter().zoomingTheSize(m_window->menuItems[item]->text(), item);
+        });
+    showZoomList();
+}
+
+void TSMainWindowController::initObserver()
+{
+    const TSNotificationCenter *center = TSNotificationCenter::defaultCenter();
+    connect(center, &TSNotificationCenter::TSDraggingPhotosEnd, this, &TSMainWindowController::addPhotos);
+    connect(center, &TSNotificationCenter::TSOutputSizeOrNameChanged, this,
+            &TSMainWindowController::outputSizeOrNameChanged);
+    connect(center, &TSNotificationCenter::overlaysChanged, this, &TSMainWindowController::validateActions);
+}
+
+void TSMainWindowController::addPhotos(const QList<QUrl> &urls)
+{
+    if (m_photoIntake)
+        m_photoIntake->addPhotosFromDragging(urls);
+    else
+        m_waitingPhotos = urls;
+}
+
+void TSMainWindowController::loadPhotoAction()
+{
+    const QList<QUrl> urls = QFileDialog::getOpenFileUrls(m_window.get(), qtTrId("ChoosePhoto"));
+    if (!urls.isEmpty() && m_photoIntake)
+        m_photoIntake->loadPhotos(urls);
+}
+
+void TSMainWindowController::addStickerFromFinder()
+{
+    const QString path = QFileDialog::getOpenFileName(m_window.get(), qtTrId("ChooseImage"));
+    if (!path.isEmpty())
+        preview().creation().addStickerWithPath(path, true);
+}
+
+void TSMainWindowController::removePhotosWithSelection(int)
+{
+    m_photoListEditor->removePhotoAction();
+    m_window->photoStrip->ibvList()->setFocus();
+}
+
+void TSMainWindowController::imageBrowserSelectionDidChange(int index)
+{
+    preview().presenter().showFrameAtIndex(index);
+    outputSizeOrNameChanged();
+    if (const auto &photo = preview().layout().photo())
+        preview().zoomList().showPercentage(photo->photoRatioOfSize);
+    showZoomList();
+    m_cacheFiller->scheduleCacheImages();
+    if (index >= 0)
+        m_photoListEditor->removeItemsWithoutSource();
+}
+
+void TSMainWindowController::outputSizeOrNameChanged()
+{
+    Q_EMIT TSNotificationCenter::defaultCenter()->TSExportImageNames();
+    const std::set<qint64> selection = m_window->photoStrip->selectionIndexes();
+    const auto photo =
+        selection.empty() ? nullptr : TSPhotoManager::photoManager()->photoAtIndex(*selection.begin());
+    if (!photo)
+        return;
+    const QString name = session()->exportNames.value(photo->index);
+    m_window->OutputTipLabel->setText(
+        QStringLiteral("Output Name : %1.%2").arg(name, session()->exportFormat));
+    m_window->outputTipSizeLabel->setText(QStringLiteral("｜  Output Size : %1 x %2 pixel")
+                                              .arg(std::lround(photo->photoOutputSize.width()))
+                                              .arg(std::lround(photo->photoOutputSize.height())));
+}
+
+void TSMainWindowController::showZoomList()
+{
+    TSZoomList &zooms = preview().zoomList();
+    m_window->pubZooming->setItemText(0, zooms.title());
+    m_window->pubZooming->setCurrentIndex(0);
+    for (size_t item = 0; item < m_window->menuItems.size(); ++item)
+        m_window->menuItems[item]->setChecked(zooms.menuItems()[item]);
+    m_window->menuItems.back()->setChecked(zooms.isFitMarked());
+}
+
+void TSMainWindowController::zoomingTheSize(int row)
+{
+    if (row > 0)
+        preview().presenter().zoomingTheSize(m_window->pubZooming->itemText(row));
+    showZoomList();
+}
+
+void TSMainWindowController::updateStartView()
+{
+    const bool isEmpty = session()->photoCount() == 0;
+    m_window->pubZooming->setEnabled(!isEmpty);
+    m_window->showStartView(isEmpty);
+    validateActions();
+}
+
+void TSMainWindowController::updateScBatchAdjust()
+{
+    m_window->scBatchAdjust->setSelected(TSIsBatchControlOverlay() ? 0 : 1);
+}
+
+void TSMainWindowController::validateActions()
+{
+    const bool hasPhotos = session()->photoCount() > 0;
+    const bool hasOverlays = TSOverlayManager::overlayManager()->overlayCount() > 0;
+    const TSMainWindow &window = *m_window;
+    for (QAction *action : {window.exportPhotos, window.addTextAction, window.addStickerAction,
+                            window.openProfileAction, window.removePhotoAction, window.removeAllPhotosAction})
+        action->setEnabled(hasPhotos);
+    window.scBatchAdjust->setEnabled(hasPhotos);
+    window.pubZooming->setEnabled(hasPhotos);
+    for (QAction *action : window.menuItems)
+        action->setEnabled(hasPhotos);
+    window.openSaveProfile->setEnabled(hasPhotos && hasOverlays);
+    window.selectAll->setEnabled(hasOverlays);
+    window.deleteOverlay->setEnabled(
+        !m_window->preview->preview().selection().editingOverlaysArray().empty());
+}
+
+bool TSMainWindowController::confirm(const QString &message, const QString &informative)
+{
+    QMessageBox box(QMessageBox::Question, {}, message, QMessageBox::Ok | QMessageBox::Cancel,
+                    m_window.get());
+    box.setInformativeText(informative);
+    box.setWindowModality(Qt::WindowModal);
+    return box.exec() == QMessageBox::Ok;
+}
+
+void TSMainWindowController::showAlert(const QString &message, const QString &informative)
+{
+    QMessageBox box(QMessageBox::Information, {}, message, QMessageBox::Ok, m_window.get());
+    box.setInformativeText(informative);
+    box.setWindowModality(Qt::WindowModal);
+    box.exec();
+}
+
+void TSMainWindowController::releaseShownPhoto()
+{
+    preview().layout().setPhoto(nullptr);
+}
+
+void TSMainWindowController::emptyEditingOverlaysArray()
+{
+    preview().selection().setEditingOverlaysArray({});
+}
+
+void TSMainWindowController::clearEditingOverlay()
+{
+    preview().selection().setEditingOverlay(nullptr);
+    preview().selection().setEditingText(nullptr);
+}
+
+void TSMainWindowController::showProcessingView(bool isShown, const QString &title, bool canCancel)
+{
+    if (!isShown) {
+        delete m_processingWindow;
+        // The intake goes on with the strip before the user is told.
+        QMetaObject::invokeMethod(this, &TSMainWindowController::tellRefusals, Qt::QueuedConnection);
+        return;
+    }
+    if (m_processingWindow)
+        return;
+    m_processingWindow =
+        new QProgressDialog(title, canCancel ? qtTrId("Cancel") : QString(), 0, 0, m_window.get());
+    m_processingWindow->setWindowModality(Qt::WindowModal);
+    m_processingWindow->setMinimumDuration(0);
+    m_processingWindow->setMinimumWidth(460);
+    connect(m_processingWindow, &QProgressDialog::canceled, this,
+            [this] { m_photoIntake->cancelProcessAction(); });
+    m_processingWindow->show();
+}
+
+void TSMainWindowController::setProcessTitle(const QString &title)
+{
+    if (m_processingWindow)
+        m_processingWindow->setLabelText(
+            m_processingWindow->fontMetrics().elidedText(title, Qt::ElideMiddle, 420));
+}
+
+/// Repeated files have a message of their own.
+void TSMainWindowController::fileWasRefused(const QString &path, const QString &reason)
+{
+    if (!session()->isHasItem(path))
+        m_refusals.append(QStringLiteral("%1: %2").arg(QFileInfo(path).fileName(), reason));
+}
+
+void TSMainWindowController::tellRefusals()
+{
+    if (m_refusals.isEmpty())
+        return;
+    const QStringList refusals = std::exchange(m_refusals, {});
+    const QStringList shown = refusals.mid(0, longestList);
+    const QString rest = refusals.size() > longestList ? QStringLiteral("\n…") : QString();
+    showAlert(qtTrId("FilesRefused").arg(refusals.size()), shown.join(u'\n') + rest);
+}

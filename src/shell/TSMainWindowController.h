@@ -1,0 +1,82 @@
+#pragma once
+
+#include "session/TSCacheFiller.h"
+#include "session/TSPhotoIntakeController.h"
+#include "session/TSPhotoIntakeHost.h"
+#include "session/TSPhotoListEditor.h"
+#include "session/TSPhotoListEditorHost.h"
+#include "shell/TSLayoutController.h"
+#include "shell/TSMainWindow.h"
+#include "shell/TSPreferencesWindowController.h"
+#include "ui/export/TSExportController.h"
+
+#include <memory>
+#include <QPointer>
+
+class QProgressDialog;
+
+/// The centre of the user's actions: ties the window to the intake, the photo list, the preview, the layouts
+/// and the export. Main thread.
+class TSMainWindowController : public QObject, private TSPhotoListEditorHost, private TSPhotoIntakeHost {
+    Q_OBJECT
+
+public:
+    /// The window shows its start view at once; half a second later everything else is there.
+    TSMainWindowController();
+    ~TSMainWindowController() override;
+
+    TSMainWindow &window() { return *m_window; }
+    /// Takes photos in as the file panel does.
+    void addPhotos(const QList<QUrl> &urls);
+
+private:
+    void updateUIAndData();
+    void initListView();
+    void initPreview();
+    void initActions();
+    void initZoomList();
+    void initObserver();
+
+    void loadPhotoAction();
+    void addStickerFromFinder();
+    void removePhotosWithSelection(int index);
+    void imageBrowserSelectionDidChange(int index);
+    void outputSizeOrNameChanged();
+    void showZoomList();
+    void zoomingTheSize(int row);
+    void updateStartView();
+    void updateScBatchAdjust();
+    void validateActions();
+    void preferencesAction();
+    void auxiliaryLine();
+    void updateAuxiliaryLineTitle();
+    void bindSnapping(QAction *action, const char *key);
+
+    bool confirm(const QString &message, const QString &informative) override;
+    void showAlert(const QString &message, const QString &informative) override;
+    void releaseShownPhoto() override;
+    void emptyEditingOverlaysArray() override;
+    void clearEditingOverlay() override;
+    void hideOverlayList() override {}
+    void updateOverlayListViewUI() override {}
+    void selectOverlays() override {}
+
+    void showProcessingView(bool isShown, const QString &title, bool canCancel) override;
+    void setProcessTitle(const QString &title) override;
+    void fileWasRefused(const QString &path, const QString &reason) override;
+    void tellRefusals();
+
+    TSPreview &preview();
+
+    std::unique_ptr<TSMainWindow> m_window;
+    std::unique_ptr<TSCacheFiller> m_cacheFiller;
+    std::unique_ptr<TSPhotoListEditor> m_photoListEditor;
+    std::unique_ptr<TSPhotoIntakeController> m_photoIntake;
+    std::unique_ptr<TSLayoutController> m_layouts;
+    std::unique_ptr<TSExportController> m_export;
+    QPointer<TSPreferencesWindowController> m_preferences;
+    QPointer<QProgressDialog> m_processingWindow;
+    QList<QUrl> m_waitingPhotos;
+    /// Of the intake under way: each file that gave no photo, with its reason.
+    QStringList m_refusals;
+};

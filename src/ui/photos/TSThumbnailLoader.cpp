@@ -1,0 +1,92 @@
+#include "ui/photos/TSThumbnailLoader.h"
+
+#include "platform/ImageFile.h"
+#include "platform/ThumbnailCache.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr qsizetype kilobytes = 64 * 1024;
+/// More than fits on a screen; what was scrolled past is asked for again when it comes back.
+constexpr size_t longestQueue = 200;
+
+QImage madeThumbnail(const TSImageBrowserItem &item, int side)
+{
+    if (item.repType == TSRepresentationType::IKImageBrowserCGImageRepresentationType) {
+        const QImage &whole = item.cgimage;
+        const bool isLarge = std::max(whole.width(), whole.height()) > side;
+        return isLarge ? whole.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation) : whole;
+    }
+    const QImage cached = platform::cachedThumbnail(item.path, side);
+    return cached.isNull() ? platform::decodeThumbnail(item.path, side) : cached;
+}
+
+} // namespace
+
+TSThumbnailLoader::TSThumbnailLoader(QObject *parent) : QObject(parent), m_images(kilobytes)
+{
+    m_pool.setMaxThreadCount(1);
+}
+
+TSThumbnailLoader::~TSThumbnailLoader()
+{
+    forget();
+    m_pool.waitForDone();
+}
+
+QImage TSThumbnailLoader::thumbnail(const std::shared_ptr<TSImageBrowserItem> &item, int side)
+{
+    const QString key = item->imageKey();
+    if (const QImage *image = m_images.object(key))
+        return *image;
+    if (m_asked.contains(key))
+        return {};
+    m_asked.insert(key);
+    const std::lock_guard lock(m_lock);
+    m_requests.push_front({item, side});
+    if (m_requests.size() > longestQueue) {
+        m_asked.remove(m_requests.back().item->imageKey());
+        m_requests.pop_back();
+    }
+    if (!m_isServing) {
+        m_isServing = true;
+        m_pool.start([this] { serve(); });
+    }
+    return {};
+}
+
+void TSThumbnailLoader::forget()
+{
+    const std::lock_guard lock(m_lock);
+    m_requests.clear();
+    m_asked.clear();
+    m_images.clear();
+}
+
+void TSThumbnailLoader::serve()
+{
+    for (;;) {
+        Request request;
+        {
+            const std::lock_guard lock(m_lock);
+            m_isServing = !m_requests.empty();
+            if (!m_isServing)
+                return;
+            request = m_requests.front();
+            m_requests.pop_front();
+        }
+        const QImage image = madeThumbnail(*request.item, request.side);
+        QMetaObject::invokeMethod(
+            this, [this, key = request.item->imageKey(), image] { store(key, image); }, Qt::QueuedConnection);
+    }
+}
+
+/// A photo that has no picture is not asked for again.
+void TSThumbnailLoader::store(const QString &imageKey, const QImage &image)
+{
+    if (image.isNull() || !m_asked.remove(imageKey))
+        return;
+    m_images.insert(imageKey, new QImage(image), std::max<qsizetype>(1, image.sizeInBytes() / 1024));
+    Q_EMIT thumbnailDidLoad(imageKey);
+}

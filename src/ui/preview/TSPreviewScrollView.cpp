@@ -1,0 +1,307 @@
+#include "ui/preview/TSPreviewScrollView.h"
+
+#include "preview/TSPhotoDrop.h"
+#include "preview/TSPreviewBackground.h"
+#include "session/TSNotificationCenter.h"
+#include "ui/preview/TSPreviewCursors.h"
+
+#include <algorithm>
+#include <numbers>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QNativeGestureEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+namespace {
+
+/// What one notch of the wheel adds to the size of the canvas.
+constexpr double zoomPerNotch = 0.1;
+constexpr double unitsPerNotch = 120;
+
+unsigned modifierFlagsOf(Qt::KeyboardModifiers modifiers)
+{
+    unsigned flags = 0;
+    if (modifiers & Qt::ShiftModifier)
+        flags |= TSModifier::Shift;
+    if (modifiers & Qt::ControlModifier)
+        flags |= TSModifier::Command;
+    return flags;
+}
+
+QStringList localPaths(const QMimeData &data)
+{
+    QStringList paths;
+    for (const QUrl &url : data.urls())
+        if (url.isLocalFile())
+            paths.append(url.toLocalFile());
+    return paths;
+}
+
+bool isArrow(int key)
+{
+    return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
+} // namespace
+
+TSPreviewScrollView::TSPreviewScrollView(QWidget *parent) : QAbstractScrollArea(parent), m_preview(*this)
+{
+    setFrameShape(QFrame::NoFrame);
+    setAcceptDrops(true);
+    setFocusPolicy(Qt::StrongFocus);
+    viewport()->setMouseTracking(true);
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+QRectF TSPreviewScrollView::superviewFrame() const
+{
+    return {QPointF(0, 0), QSizeF(viewport()->size())};
+}
+
+/// The scroll bars count from the top, the preview from the bottom.
+QRectF TSPreviewScrollView::superviewBounds() const
+{
+    const QSizeF visible = viewport()->size();
+    const double below = m_documentSize.height() - visible.height() - verticalScrollBar()->value();
+    return {QPointF(horizontalScrollBar()->value(), std::max(0.0, below)), visible};
+}
+
+void TSPreviewScrollView::previewFrameDidChange(const QRectF &frame)
+{
+    m_documentSize = frame.size();
+    // Showing a bar narrows the view in the other direction, which the second round finds.
+    for (int round = 0; round < 2; ++round) {
+        const QSize visible = viewport()->size();
+        horizontalScrollBar()->setRange(0, std::max(0, int(m_documentSize.width()) - visible.width()));
+        verticalScrollBar()->setRange(0, std::max(0, int(m_documentSize.height()) - visible.height()));
+        horizontalScrollBar()->setPageStep(visible.width());
+        verticalScrollBar()->setPageStep(visible.height());
+    }
+    redrawCanvasView();
+}
+
+void TSPreviewScrollView::scrollToPoint(const QPointF &point)
+{
+    horizontalScrollBar()->setValue(int(point.x()));
+    verticalScrollBar()->setValue(int(m_documentSize.height() - viewport()->height() - point.y()));
+}
+
+void TSPreviewScrollView::redrawCanvasView()
+{
+    m_canvasPicture = {};
+    viewport()->update();
+}
+
+void TSPreviewScrollView::redrawOverlaysView()
+{
+    viewport()->update();
+}
+
+void TSPreviewScrollView::redrawTrackerView()
+{
+    viewport()->update();
+}
+
+void TSPreviewScrollView::setCursor(TSCursor cursor)
+{
+    m_cursor = cursor;
+    viewport()->setCursor(TSPreviewCursor(cursor));
+}
+
+void TSPreviewScrollView::makeFirstResponder(TSResponder)
+{
+    setFocus();
+}
+
+void TSPreviewScrollView::zoomListDidChange()
+{
+    Q_EMIT zoomListChanged();
+}
+
+QPointF TSPreviewScrollView::scrollOffset() const
+{
+    return QPointF(horizontalScrollBar()->value(), verticalScrollBar()->value());
+}
+
+TSMouseEvent TSPreviewScrollView::mapped(const QMouseEvent &event, int clickCount) const
+{
+    return {event.position() + scrollOffset(), modifierFlagsOf(event.modifiers()), clickCount};
+}
+
+QPixmap TSPreviewScrollView::newLayerPicture() const
+{
+    QPixmap picture(viewport()->size() * devicePixelRatioF());
+    picture.setDevicePixelRatio(devicePixelRatioF());
+    return picture;
+}
+
+const QPixmap &TSPreviewScrollView::canvasPicture()
+{
+    if (!m_canvasPicture.isNull())
+        return m_canvasPicture;
+    m_canvasPicture = newLayerPicture();
+    QPainter painter(&m_canvasPicture);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(viewport()->rect(), TSPreviewBackground(viewport()->size()));
+    const QRectF canvas = m_preview.layout().convertRectToOverlaysView(m_preview.layout().canvasViewFrame());
+    painter.translate(canvas.topLeft() - scrollOffset());
+    m_preview.drawCanvas(painter);
+    return m_canvasPicture;
+}
+
+bool TSPreviewScrollView::event(QEvent *event)
+{
+    const bool isHandled = QAbstractScrollArea::event(event);
+    // Of this view and not of its viewport, which changes with the scroll bars too.
+    if (event->type() == QEvent::Resize)
+        Q_EMIT TSNotificationCenter::defaultCenter()->TSWindowWillResizeOrZooming();
+    return isHandled;
+}
+
+bool TSPreviewScrollView::viewportEvent(QEvent *event)
+{
+    if (event->type() == QEvent::Resize)
+        m_canvasPicture = {};
+    if (event->type() == QEvent::NativeGesture) {
+        const auto *gesture = static_cast<QNativeGestureEvent *>(event);
+        if (gesture->gestureType() == Qt::ZoomNativeGesture)
+            m_preview.presenter().magnifyWithEvent(gesture->value());
+        return true;
+    }
+    return QAbstractScrollArea::viewportEvent(event);
+}
+
+void TSPreviewScrollView::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(viewport());
+    painter.drawPixmap(0, 0, canvasPicture());
+    painter.translate(-scrollOffset());
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    const QRectF visible = QRectF(event->rect()).translated(scrollOffset());
+    m_preview.overlaysLayer().drawRect(painter, visible);
+    m_preview.trackerLayer().drawRect(painter);
+    if (hasFocus() && m_isUsedByKeys)
+        drawFocusRing(painter);
+}
+
+/// Around the marks that the keys act on, for whoever works without a mouse.
+void TSPreviewScrollView::drawFocusRing(QPainter &painter)
+{
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    for (const auto &overlay : m_preview.selection().editingOverlaysArray()) {
+        painter.save();
+        const QPointF center = overlay->frame().center();
+        painter.translate(center);
+        painter.rotate(overlay->angle() * 180 / std::numbers::pi);
+        painter.translate(-center);
+        painter.drawRoundedRect(overlay->frame().adjusted(-5, -5, 5, 5), 4, 4);
+        painter.restore();
+    }
+}
+
+void TSPreviewScrollView::scrollContentsBy(int, int)
+{
+    redrawCanvasView();
+}
+
+void TSPreviewScrollView::focusInEvent(QFocusEvent *event)
+{
+    const bool isByTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    m_isUsedByKeys = isByTab;
+    if (isByTab && m_preview.selection().editingOverlaysArray().empty())
+        selectNeighbour(event->reason() == Qt::TabFocusReason ? 1 : -1);
+    viewport()->update();
+}
+
+void TSPreviewScrollView::focusOutEvent(QFocusEvent *)
+{
+    viewport()->update();
+}
+
+void TSPreviewScrollView::mousePressEvent(QMouseEvent *event)
+{
+    m_isUsedByKeys = false;
+    if (event->button() == Qt::LeftButton)
+        m_preview.mouseDown(mapped(*event, 1));
+}
+
+void TSPreviewScrollView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        m_preview.mouseDown(mapped(*event, 2));
+}
+
+void TSPreviewScrollView::mouseMoveEvent(QMouseEvent *event)
+{
+    if (event->buttons() & Qt::LeftButton)
+        m_preview.mouseDragged(mapped(*event, 1));
+    else
+        m_preview.mouseMoved(mapped(*event, 0));
+}
+
+void TSPreviewScrollView::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        m_preview.mouseUp();
+}
+
+void TSPreviewScrollView::wheelEvent(QWheelEvent *event)
+{
+    if (event->modifiers() & Qt::ControlModifier)
+        m_preview.presenter().magnifyWithEvent(event->angleDelta().y() / unitsPerNotch * zoomPerNotch);
+    else
+        QAbstractScrollArea::wheelEvent(event);
+}
+
+void TSPreviewScrollView::keyPressEvent(QKeyEvent *event)
+{
+    const bool isDelete = event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace;
+    if ((isDelete || isArrow(event->key())) && !m_preview.selection().editingOverlaysArray().empty())
+        m_preview.trackerLayer().keyDown(event->key());
+    else if (event->key() == Qt::Key_Escape)
+        m_preview.selection().selectOverlay(nullptr);
+    else
+        QAbstractScrollArea::keyPressEvent(event);
+}
+
+/// Tab goes from mark to mark, and leaves the preview behind the last one.
+bool TSPreviewScrollView::focusNextPrevChild(bool next)
+{
+    m_isUsedByKeys = true;
+    return selectNeighbour(next ? 1 : -1) || QAbstractScrollArea::focusNextPrevChild(next);
+}
+
+bool TSPreviewScrollView::selectNeighbour(int step)
+{
+    const TSOverlayManager *manager = TSOverlayManager::overlayManager();
+    const auto &selected = m_preview.selection().editingOverlaysArray();
+    const qint64 count = manager->overlayCount();
+    const qint64 present =
+        selected.empty() ? (step > 0 ? -1 : count) : manager->indexOfOverlay(selected.back());
+    const auto neighbour = manager->overlayAtIndex(present + step);
+    if (!neighbour)
+        return false;
+    m_preview.selection().selectOverlay(neighbour);
+    return true;
+}
+
+void TSPreviewScrollView::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (TSPhotoDrop::draggingUpdated(localPaths(*event->mimeData())) == TSPhotoDrop::Copy)
+        event->acceptProposedAction();
+}
+
+void TSPreviewScrollView::dragMoveEvent(QDragMoveEvent *event)
+{
+    event->acceptProposedAction();
+}
+
+void TSPreviewScrollView::dropEvent(QDropEvent *event)
+{
+    const QObject *source = event->source();
+    const QString className = source ? QString::fromLatin1(source->metaObject()->className()) : QString();
+    if (TSPhotoDrop::performDragOperation(localPaths(*event->mimeData()), className))
+        event->acceptProposedAction();
+}

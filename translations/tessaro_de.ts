@@ -1,0 +1,355 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="AddPhotos">
+        <source>Add…</source>
+        <translation>Hinzufügen …</translation>
+    </message>
+    <message id="Adjust">
+        <source>Adjust</source>
+        <translation>Anpassen</translation>
+    </message>
+    <message id="Batch">
+        <source>Batch</source>
+        <translation>Alle</translation>
+    </message>
+    <message id="BatchAdjustName">
+        <source>Change all photos or the selected one</source>
+        <translation>Alle Fotos oder das ausgewählte ändern</translation>
+    </message>
+    <message id="Cancel">
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="ChooseFolder">
+        <source>Choose a Folder</source>
+        <translation>Ordner auswählen</translation>
+    </message>
+    <message id="ChooseImage">
+        <source>Choose an Image</source>
+        <translation>Bild auswählen</translation>
+    </message>
+    <message id="ChooseLayout">
+        <source>Choose a Layout</source>
+        <translation>Layout auswählen</translation>
+    </message>
+    <message id="ChoosePhoto">
+        <source>Choose Photos</source>
+        <translation>Fotos auswählen</translation>
+    </message>
+    <message id="Close">
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message id="ConfirmCancel">
+        <source>Stop the export?</source>
+        <translation>Export abbrechen?</translation>
+    </message>
+    <message id="Continue">
+        <source>Continue</source>
+        <translation>Fortfahren</translation>
+    </message>
+    <message id="Converting...">
+        <source>Exporting…</source>
+        <translation>Export läuft …</translation>
+    </message>
+    <message id="Do you want to cover watermarks">
+        <source>The layout takes the place of the watermarks on the photos.</source>
+        <translation>Das Layout tritt an die Stelle der Wasserzeichen auf den Fotos.</translation>
+    </message>
+    <message id="Do you want to cover watermarks title">
+        <source>Replace the present watermarks?</source>
+        <translation>Vorhandene Wasserzeichen ersetzen?</translation>
+    </message>
+    <message id="DonotShowApplyProfileTipAgain">
+        <source>Do not ask again</source>
+        <translation>Nicht mehr fragen</translation>
+    </message>
+    <message id="DontShowAgain">
+        <source>Do not show this again</source>
+        <translation>Nicht mehr anzeigen</translation>
+    </message>
+    <message id="Example">
+        <source>Example</source>
+        <translation>Beispiel</translation>
+    </message>
+    <message id="ExportDone">
+        <source>The photos are exported</source>
+        <translation>Die Fotos sind exportiert</translation>
+    </message>
+    <message id="ExportStop">
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message id="FailedShowFile">
+        <source>This file could not be shown: </source>
+        <translation>Diese Datei konnte nicht angezeigt werden: </translation>
+    </message>
+    <message id="Fit">
+        <source>Fit</source>
+        <translation>Einpassen</translation>
+    </message>
+    <message id="Format">
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message id="Loading...">
+        <source>Loading…</source>
+        <translation>Laden …</translation>
+    </message>
+    <message id="LoadingPhoto">
+        <source>Loading</source>
+        <translation>Laden</translation>
+    </message>
+    <message id="MenuAddImage">
+        <source>Add Image…</source>
+        <translation>Bild hinzufügen …</translation>
+    </message>
+    <message id="MenuAddPhotos">
+        <source>Add Photos…</source>
+        <translation>Fotos hinzufügen …</translation>
+    </message>
+    <message id="MenuAddText">
+        <source>Add Text</source>
+        <translation>Text hinzufügen</translation>
+    </message>
+    <message id="MenuApplyLayout">
+        <source>Apply Layout…</source>
+        <translation>Layout anwenden …</translation>
+    </message>
+    <message id="MenuDelete">
+        <source>Delete Watermark</source>
+        <translation>Wasserzeichen löschen</translation>
+    </message>
+    <message id="MenuEdit">
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message id="MenuExport">
+        <source>Export…</source>
+        <translation>Exportieren …</translation>
+    </message>
+    <message id="MenuPhotos">
+        <source>&amp;Photos</source>
+        <translation>&amp;Fotos</translation>
+    </message>
+    <message id="MenuPreferences">
+        <source>Preferences…</source>
+        <translation>Einstellungen …</translation>
+    </message>
+    <message id="MenuQuit">
+        <source>Quit Tessaro</source>
+        <translation>Tessaro beenden</translation>
+    </message>
+    <message id="MenuRemoveAll">
+        <source>Remove All Photos</source>
+        <translation>Alle Fotos entfernen</translation>
+    </message>
+    <message id="MenuRemovePhoto">
+        <source>Remove Photo</source>
+        <translation>Foto entfernen</translation>
+    </message>
+    <message id="MenuSaveLayout">
+        <source>Save Layout…</source>
+        <translation>Layout sichern …</translation>
+    </message>
+    <message id="MenuSelectAll">
+        <source>Select All Watermarks</source>
+        <translation>Alle Wasserzeichen auswählen</translation>
+    </message>
+    <message id="MenuSnap">
+        <source>Snap</source>
+        <translation>Einrasten</translation>
+    </message>
+    <message id="MenuSnapToObjects">
+        <source>Snap to Watermarks</source>
+        <translation>An Wasserzeichen einrasten</translation>
+    </message>
+    <message id="MenuSnapToPhoto">
+        <source>Snap to Photo</source>
+        <translation>Am Foto einrasten</translation>
+    </message>
+    <message id="MenuView">
+        <source>&amp;View</source>
+        <translation>&amp;Darstellung</translation>
+    </message>
+    <message id="MenuWatermark">
+        <source>&amp;Watermark</source>
+        <translation>&amp;Wasserzeichen</translation>
+    </message>
+    <message id="MenuZoom">
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message id="NameRepetition">
+        <source>Rename numbers the new files. Replace writes over the files that are there. The answer holds for the whole export.</source>
+        <translation>Umbenennen nummeriert die neuen Dateien. Ersetzen überschreibt die vorhandenen. Die Antwort gilt für den ganzen Export.</translation>
+    </message>
+    <message id="NameRepetitionTitle">
+        <source>A file of that name is there already</source>
+        <translation>Eine Datei mit diesem Namen gibt es schon</translation>
+    </message>
+    <message id="No Picture">
+        <source>Its file was moved or deleted. The other photos are exported.</source>
+        <translation>Seine Datei wurde verschoben oder gelöscht. Die anderen Fotos werden exportiert.</translation>
+    </message>
+    <message id="No Picture Title">
+        <source>A photo is missing</source>
+        <translation>Ein Foto fehlt</translation>
+    </message>
+    <message id="NoLayout">
+        <source>No layout could be read there.</source>
+        <translation>Dort war kein Layout zu lesen.</translation>
+    </message>
+    <message id="OK">
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message id="OutputName">
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message id="PhotoBigger">
+        <source>The output would be larger than %1 × %2 pixels. That takes long and much memory.</source>
+        <translation>Die Ausgabe wäre größer als %1 × %2 Pixel. Das dauert lange und braucht viel Speicher.</translation>
+    </message>
+    <message id="PhotoBiggerTitle">
+        <source>Very large photos</source>
+        <translation>Sehr große Fotos</translation>
+    </message>
+    <message id="Photos">
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message id="PreviewName">
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message id="Remove">
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message id="RemoveAll">
+        <source>Remove All</source>
+        <translation>Alle entfernen</translation>
+    </message>
+    <message id="RemoveAllPhotos">
+        <source>The watermarks go with the last photo.</source>
+        <translation>Mit dem letzten Foto gehen auch die Wasserzeichen.</translation>
+    </message>
+    <message id="RemoveAllPhotosTitle">
+        <source>Remove all photos?</source>
+        <translation>Alle Fotos entfernen?</translation>
+    </message>
+    <message id="Rename">
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message id="Replace">
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message id="Resize">
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message id="SampleText">
+        <source>Sample Text</source>
+        <translation>Beispieltext</translation>
+    </message>
+    <message id="SaveLayoutName">
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message id="SaveLayoutTitle">
+        <source>Save Layout</source>
+        <translation>Layout sichern</translation>
+    </message>
+    <message id="ShowFile">
+        <source>Show File</source>
+        <translation>Datei anzeigen</translation>
+    </message>
+    <message id="Source don't exist">
+        <source>Some photos are gone</source>
+        <translation>Einige Fotos sind verschwunden</translation>
+    </message>
+    <message id="StartButton">
+        <source>Add Photos…</source>
+        <translation>Fotos hinzufügen …</translation>
+    </message>
+    <message id="StartHint">
+        <source>or drop them here</source>
+        <translation>oder hier ablegen</translation>
+    </message>
+    <message id="StartTitle">
+        <source>Put your mark on your photos</source>
+        <translation>Setzen Sie Ihr Zeichen auf Ihre Fotos</translation>
+    </message>
+    <message id="Stop">
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message id="WarningCancel">
+        <source>Photos that are written already stay.</source>
+        <translation>Schon geschriebene Fotos bleiben.</translation>
+    </message>
+    <message id="can'tAddRepeatedly">
+        <source>Some photos are in the list already</source>
+        <translation>Einige Fotos sind schon in der Liste</translation>
+    </message>
+    <message id="delete no source file image">
+        <source>Their files were moved or deleted, so they were taken off the list.</source>
+        <translation>Ihre Dateien wurden verschoben oder gelöscht; sie wurden aus der Liste genommen.</translation>
+    </message>
+    <message id="imagesFiltered">
+        <source>They were not added again.</source>
+        <translation>Sie wurden nicht noch einmal hinzugefügt.</translation>
+    </message>
+    <message id="tfByFitHeightSize">
+        <source>Greatest height</source>
+        <translation>Größte Höhe</translation>
+    </message>
+    <message id="tfByFitWidthSize">
+        <source>Greatest width</source>
+        <translation>Größte Breite</translation>
+    </message>
+    <message id="tfByHeight">
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message id="tfByPercentage">
+        <source>Percentage</source>
+        <translation>Prozent</translation>
+    </message>
+    <message id="tfByWidth">
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message id="PreferShowResult">
+        <source>Show the result after an export</source>
+        <translation>Ergebnis nach einem Export zeigen</translation>
+    </message>
+    <message id="PreferNoApplyTip">
+        <source>Apply layouts without asking</source>
+        <translation>Layouts ohne Nachfrage anwenden</translation>
+    </message>
+    <message id="PreferNoRemoveTip">
+        <source>Remove layouts without asking</source>
+        <translation>Layouts ohne Nachfrage entfernen</translation>
+    </message>
+    <message id="Preferences">
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message id="FilesRefused">
+        <source>Files that gave no photo: %1</source>
+        <translation>Dateien, die kein Foto ergaben: %1</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,355 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="AddPhotos">
+        <source>Add…</source>
+        <translation>Add…</translation>
+    </message>
+    <message id="Adjust">
+        <source>Adjust</source>
+        <translation>Adjust</translation>
+    </message>
+    <message id="Batch">
+        <source>Batch</source>
+        <translation>Batch</translation>
+    </message>
+    <message id="BatchAdjustName">
+        <source>Change all photos or the selected one</source>
+        <translation>Change all photos or the selected one</translation>
+    </message>
+    <message id="Cancel">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="ChooseFolder">
+        <source>Choose a Folder</source>
+        <translation>Choose a Folder</translation>
+    </message>
+    <message id="ChooseImage">
+        <source>Choose an Image</source>
+        <translation>Choose an Image</translation>
+    </message>
+    <message id="ChooseLayout">
+        <source>Choose a Layout</source>
+        <translation>Choose a Layout</translation>
+    </message>
+    <message id="ChoosePhoto">
+        <source>Choose Photos</source>
+        <translation>Choose Photos</translation>
+    </message>
+    <message id="Close">
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message id="ConfirmCancel">
+        <source>Stop the export?</source>
+        <translation>Stop the export?</translation>
+    </message>
+    <message id="Continue">
+        <source>Continue</source>
+        <translation>Continue</translation>
+    </message>
+    <message id="Converting...">
+        <source>Exporting…</source>
+        <translation>Exporting…</translation>
+    </message>
+    <message id="Do you want to cover watermarks">
+        <source>The layout takes the place of the watermarks on the photos.</source>
+        <translation>The layout takes the place of the watermarks on the photos.</translation>
+    </message>
+    <message id="Do you want to cover watermarks title">
+        <source>Replace the present watermarks?</source>
+        <translation>Replace the present watermarks?</translation>
+    </message>
+    <message id="DonotShowApplyProfileTipAgain">
+        <source>Do not ask again</source>
+        <translation>Do not ask again</translation>
+    </message>
+    <message id="DontShowAgain">
+        <source>Do not show this again</source>
+        <translation>Do not show this again</translation>
+    </message>
+    <message id="Example">
+        <source>Example</source>
+        <translation>Example</translation>
+    </message>
+    <message id="ExportDone">
+        <source>The photos are exported</source>
+        <translation>The photos are exported</translation>
+    </message>
+    <message id="ExportStop">
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message id="FailedShowFile">
+        <source>This file could not be shown: </source>
+        <translation>This file could not be shown: </translation>
+    </message>
+    <message id="Fit">
+        <source>Fit</source>
+        <translation>Fit</translation>
+    </message>
+    <message id="Format">
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message id="Loading...">
+        <source>Loading…</source>
+        <translation>Loading…</translation>
+    </message>
+    <message id="LoadingPhoto">
+        <source>Loading</source>
+        <translation>Loading</translation>
+    </message>
+    <message id="MenuAddImage">
+        <source>Add Image…</source>
+        <translation>Add Image…</translation>
+    </message>
+    <message id="MenuAddPhotos">
+        <source>Add Photos…</source>
+        <translation>Add Photos…</translation>
+    </message>
+    <message id="MenuAddText">
+        <source>Add Text</source>
+        <translation>Add Text</translation>
+    </message>
+    <message id="MenuApplyLayout">
+        <source>Apply Layout…</source>
+        <translation>Apply Layout…</translation>
+    </message>
+    <message id="MenuDelete">
+        <source>Delete Watermark</source>
+        <translation>Delete Watermark</translation>
+    </message>
+    <message id="MenuEdit">
+        <source>&amp;Edit</source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message id="MenuExport">
+        <source>Export…</source>
+        <translation>Export…</translation>
+    </message>
+    <message id="MenuPhotos">
+        <source>&amp;Photos</source>
+        <translation>&amp;Photos</translation>
+    </message>
+    <message id="MenuPreferences">
+        <source>Preferences…</source>
+        <translation>Preferences…</translation>
+    </message>
+    <message id="MenuQuit">
+        <source>Quit Tessaro</source>
+        <translation>Quit Tessaro</translation>
+    </message>
+    <message id="MenuRemoveAll">
+        <source>Remove All Photos</source>
+        <translation>Remove All Photos</translation>
+    </message>
+    <message id="MenuRemovePhoto">
+        <source>Remove Photo</source>
+        <translation>Remove Photo</translation>
+    </message>
+    <message id="MenuSaveLayout">
+        <source>Save Layout…</source>
+        <translation>Save Layout…</translation>
+    </message>
+    <message id="MenuSelectAll">
+        <source>Select All Watermarks</source>
+        <translation>Select All Watermarks</translation>
+    </message>
+    <message id="MenuSnap">
+        <source>Snap</source>
+        <translation>Snap</translation>
+    </message>
+    <message id="MenuSnapToObjects">
+        <source>Snap to Watermarks</source>
+        <translation>Snap to Watermarks</translation>
+    </message>
+    <message id="MenuSnapToPhoto">
+        <source>Snap to Photo</source>
+        <translation>Snap to Photo</translation>
+    </message>
+    <message id="MenuView">
+        <source>&amp;View</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message id="MenuWatermark">
+        <source>&amp;Watermark</source>
+        <translation>&amp;Watermark</translation>
+    </message>
+    <message id="MenuZoom">
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message id="NameRepetition">
+        <source>Rename numbers the new files. Replace writes over the files that are there. The answer holds for the whole export.</source>
+        <translation>Rename numbers the new files. Replace writes over the files that are there. The answer holds for the whole export.</translation>
+    </message>
+    <message id="NameRepetitionTitle">
+        <source>A file of that name is there already</source>
+        <translation>A file of that name is there already</translation>
+    </message>
+    <message id="No Picture">
+        <source>Its file was moved or deleted. The other photos are exported.</source>
+        <translation>Its file was moved or deleted. The other photos are exported.</translation>
+    </message>
+    <message id="No Picture Title">
+        <source>A photo is missing</source>
+        <translation>A photo is missing</translation>
+    </message>
+    <message id="NoLayout">
+        <source>No layout could be read there.</source>
+        <translation>No layout could be read there.</translation>
+    </message>
+    <message id="OK">
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message id="OutputName">
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message id="PhotoBigger">
+        <source>The output would be larger than %1 × %2 pixels. That takes long and much memory.</source>
+        <translation>The output would be larger than %1 × %2 pixels. That takes long and much memory.</translation>
+    </message>
+    <message id="PhotoBiggerTitle">
+        <source>Very large photos</source>
+        <translation>Very large photos</translation>
+    </message>
+    <message id="Photos">
+        <source>Photos</source>
+        <translation>Photos</translation>
+    </message>
+    <message id="PreviewName">
+        <source>Preview</source>
+        <translation>Preview</translation>
+    </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>Quality</translation>
+    </message>
+    <message id="Remove">
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message id="RemoveAll">
+        <source>Remove All</source>
+        <translation>Remove All</translation>
+    </message>
+    <message id="RemoveAllPhotos">
+        <source>The watermarks go with the last photo.</source>
+        <translation>The watermarks go with the last photo.</translation>
+    </message>
+    <message id="RemoveAllPhotosTitle">
+        <source>Remove all photos?</source>
+        <translation>Remove all photos?</translation>
+    </message>
+    <message id="Rename">
+        <source>Rename</source>
+        <translation>Rename</translation>
+    </message>
+    <message id="Replace">
+        <source>Replace</source>
+        <translation>Replace</translation>
+    </message>
+    <message id="Resize">
+        <source>Size</source>
+        <translation>Size</translation>
+    </message>
+    <message id="SampleText">
+        <source>Sample Text</source>
+        <translation>Sample Text</translation>
+    </message>
+    <message id="SaveLayoutName">
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message id="SaveLayoutTitle">
+        <source>Save Layout</source>
+        <translation>Save Layout</translation>
+    </message>
+    <message id="ShowFile">
+        <source>Show File</source>
+        <translation>Show File</translation>
+    </message>
+    <message id="Source don't exist">
+        <source>Some photos are gone</source>
+        <translation>Some photos are gone</translation>
+    </message>
+    <message id="StartButton">
+        <source>Add Photos…</source>
+        <translation>Add Photos…</translation>
+    </message>
+    <message id="StartHint">
+        <source>or drop them here</source>
+        <translation>or drop them here</translation>
+    </message>
+    <message id="StartTitle">
+        <source>Put your mark on your photos</source>
+        <translation>Put your mark on your photos</translation>
+    </message>
+    <message id="Stop">
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message id="WarningCancel">
+        <source>Photos that are written already stay.</source>
+        <translation>Photos that are written already stay.</translation>
+    </message>
+    <message id="can'tAddRepeatedly">
+        <source>Some photos are in the list already</source>
+        <translation>Some photos are in the list already</translation>
+    </message>
+    <message id="delete no source file image">
+        <source>Their files were moved or deleted, so they were taken off the list.</source>
+        <translation>Their files were moved or deleted, so they were taken off the list.</translation>
+    </message>
+    <message id="imagesFiltered">
+        <source>They were not added again.</source>
+        <translation>They were not added again.</translation>
+    </message>
+    <message id="tfByFitHeightSize">
+        <source>Greatest height</source>
+        <translation>Greatest height</translation>
+    </message>
+    <message id="tfByFitWidthSize">
+        <source>Greatest width</source>
+        <translation>Greatest width</translation>
+    </message>
+    <message id="tfByHeight">
+        <source>Height</source>
+        <translation>Height</translation>
+    </message>
+    <message id="tfByPercentage">
+        <source>Percentage</source>
+        <translation>Percentage</translation>
+    </message>
+    <message id="tfByWidth">
+        <source>Width</source>
+        <translation>Width</translation>
+    </message>
+    <message id="PreferShowResult">
+        <source>Show the result after an export</source>
+        <translation>Show the result after an export</translation>
+    </message>
+    <message id="PreferNoApplyTip">
+        <source>Apply layouts without asking</source>
+        <translation>Apply layouts without asking</translation>
+    </message>
+    <message id="PreferNoRemoveTip">
+        <source>Remove layouts without asking</source>
+        <translation>Remove layouts without asking</translation>
+    </message>
+    <message id="Preferences">
+        <source>Preferences</source>
+        <translation>Preferences</translation>
+    </message>
+    <message id="FilesRefused">
+        <source>Files that gave no photo: %1</source>
+        <translation>Files that gave no photo: %1</translation>
+    </message>
+</context>
+</TS>

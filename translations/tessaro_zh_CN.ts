@@ -1,0 +1,355 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="AddPhotos">
+        <source>Add…</source>
+        <translation>添加…</translation>
+    </message>
+    <message id="Adjust">
+        <source>Adjust</source>
+        <translation>单张</translation>
+    </message>
+    <message id="Batch">
+        <source>Batch</source>
+        <translation>批量</translation>
+    </message>
+    <message id="BatchAdjustName">
+        <source>Change all photos or the selected one</source>
+        <translation>更改所有照片或仅所选照片</translation>
+    </message>
+    <message id="Cancel">
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message id="ChooseFolder">
+        <source>Choose a Folder</source>
+        <translation>选择文件夹</translation>
+    </message>
+    <message id="ChooseImage">
+        <source>Choose an Image</source>
+        <translation>选择图片</translation>
+    </message>
+    <message id="ChooseLayout">
+        <source>Choose a Layout</source>
+        <translation>选择版式</translation>
+    </message>
+    <message id="ChoosePhoto">
+        <source>Choose Photos</source>
+        <translation>选择照片</translation>
+    </message>
+    <message id="Close">
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message id="ConfirmCancel">
+        <source>Stop the export?</source>
+        <translation>停止导出？</translation>
+    </message>
+    <message id="Continue">
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+    <message id="Converting...">
+        <source>Exporting…</source>
+        <translation>正在导出…</translation>
+    </message>
+    <message id="Do you want to cover watermarks">
+        <source>The layout takes the place of the watermarks on the photos.</source>
+        <translation>该版式将取代照片上现有的水印。</translation>
+    </message>
+    <message id="Do you want to cover watermarks title">
+        <source>Replace the present watermarks?</source>
+        <translation>替换当前水印？</translation>
+    </message>
+    <message id="DonotShowApplyProfileTipAgain">
+        <source>Do not ask again</source>
+        <translation>不再询问</translation>
+    </message>
+    <message id="DontShowAgain">
+        <source>Do not show this again</source>
+        <translation>不再显示</translation>
+    </message>
+    <message id="Example">
+        <source>Example</source>
+        <translation>示例</translation>
+    </message>
+    <message id="ExportDone">
+        <source>The photos are exported</source>
+        <translation>照片已导出</translation>
+    </message>
+    <message id="ExportStop">
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message id="FailedShowFile">
+        <source>This file could not be shown: </source>
+        <translation>无法显示此文件：</translation>
+    </message>
+    <message id="Fit">
+        <source>Fit</source>
+        <translation>适合窗口</translation>
+    </message>
+    <message id="Format">
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+    <message id="Loading...">
+        <source>Loading…</source>
+        <translation>正在载入…</translation>
+    </message>
+    <message id="LoadingPhoto">
+        <source>Loading</source>
+        <translation>正在载入</translation>
+    </message>
+    <message id="MenuAddImage">
+        <source>Add Image…</source>
+        <translation>添加图片…</translation>
+    </message>
+    <message id="MenuAddPhotos">
+        <source>Add Photos…</source>
+        <translation>添加照片…</translation>
+    </message>
+    <message id="MenuAddText">
+        <source>Add Text</source>
+        <translation>添加文字</translation>
+    </message>
+    <message id="MenuApplyLayout">
+        <source>Apply Layout…</source>
+        <translation>应用版式…</translation>
+    </message>
+    <message id="MenuDelete">
+        <source>Delete Watermark</source>
+        <translation>删除水印</translation>
+    </message>
+    <message id="MenuEdit">
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message id="MenuExport">
+        <source>Export…</source>
+        <translation>导出…</translation>
+    </message>
+    <message id="MenuPhotos">
+        <source>&amp;Photos</source>
+        <translation>照片(&amp;P)</translation>
+    </message>
+    <message id="MenuPreferences">
+        <source>Preferences…</source>
+        <translation>偏好设置…</translation>
+    </message>
+    <message id="MenuQuit">
+        <source>Quit Tessaro</source>
+        <translation>退出 Tessaro</translation>
+    </message>
+    <message id="MenuRemoveAll">
+        <source>Remove All Photos</source>
+        <translation>移除所有照片</translation>
+    </message>
+    <message id="MenuRemovePhoto">
+        <source>Remove Photo</source>
+        <translation>移除照片</translation>
+    </message>
+    <message id="MenuSaveLayout">
+        <source>Save Layout…</source>
+        <translation>存储版式…</translation>
+    </message>
+    <message id="MenuSelectAll">
+        <source>Select All Watermarks</source>
+        <translation>选择所有水印</translation>
+    </message>
+    <message id="MenuSnap">
+        <source>Snap</source>
+        <translation>自动吸附</translation>
+    </message>
+    <message id="MenuSnapToObjects">
+        <source>Snap to Watermarks</source>
+        <translation>吸附到水印</translation>
+    </message>
+    <message id="MenuSnapToPhoto">
+        <source>Snap to Photo</source>
+        <translation>吸附到照片</translation>
+    </message>
+    <message id="MenuView">
+        <source>&amp;View</source>
+        <translation>显示(&amp;V)</translation>
+    </message>
+    <message id="MenuWatermark">
+        <source>&amp;Watermark</source>
+        <translation>水印(&amp;W)</translation>
+    </message>
+    <message id="MenuZoom">
+        <source>Zoom</source>
+        <translation>缩放</translation>
+    </message>
+    <message id="NameRepetition">
+        <source>Rename numbers the new files. Replace writes over the files that are there. The answer holds for the whole export.</source>
+        <translation>“重命名”会为新文件编号，“替换”会覆盖现有文件。此选择适用于整个导出。</translation>
+    </message>
+    <message id="NameRepetitionTitle">
+        <source>A file of that name is there already</source>
+        <translation>已存在同名文件</translation>
+    </message>
+    <message id="No Picture">
+        <source>Its file was moved or deleted. The other photos are exported.</source>
+        <translation>其文件已被移动或删除。其他照片将继续导出。</translation>
+    </message>
+    <message id="No Picture Title">
+        <source>A photo is missing</source>
+        <translation>照片缺失</translation>
+    </message>
+    <message id="NoLayout">
+        <source>No layout could be read there.</source>
+        <translation>无法从该处读取版式。</translation>
+    </message>
+    <message id="OK">
+        <source>OK</source>
+        <translation>好</translation>
+    </message>
+    <message id="OutputName">
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message id="PhotoBigger">
+        <source>The output would be larger than %1 × %2 pixels. That takes long and much memory.</source>
+        <translation>输出将大于 %1 × %2 像素，需要较长时间和较多内存。</translation>
+    </message>
+    <message id="PhotoBiggerTitle">
+        <source>Very large photos</source>
+        <translation>照片非常大</translation>
+    </message>
+    <message id="Photos">
+        <source>Photos</source>
+        <translation>照片</translation>
+    </message>
+    <message id="PreviewName">
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+    <message id="Quality">
+        <source>Quality</source>
+        <translation>质量</translation>
+    </message>
+    <message id="Remove">
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message id="RemoveAll">
+        <source>Remove All</source>
+        <translation>全部移除</translation>
+    </message>
+    <message id="RemoveAllPhotos">
+        <source>The watermarks go with the last photo.</source>
+        <translation>水印会随最后一张照片一起移除。</translation>
+    </message>
+    <message id="RemoveAllPhotosTitle">
+        <source>Remove all photos?</source>
+        <translation>移除所有照片？</translation>
+    </message>
+    <message id="Rename">
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message id="Replace">
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+    <message id="Resize">
+        <source>Size</source>
+        <translation>尺寸</translation>
+    </message>
+    <message id="SampleText">
+        <source>Sample Text</source>
+        <translation>示例文字</translation>
+    </message>
+    <message id="SaveLayoutName">
+        <source>Name:</source>
+        <translation>名称：</translation>
+    </message>
+    <message id="SaveLayoutTitle">
+        <source>Save Layout</source>
+        <translation>存储版式</translation>
+    </message>
+    <message id="ShowFile">
+        <source>Show File</source>
+        <translation>显示文件</translation>
+    </message>
+    <message id="Source don't exist">
+        <source>Some photos are gone</source>
+        <translation>部分照片已不存在</translation>
+    </message>
+    <message id="StartButton">
+        <source>Add Photos…</source>
+        <translation>添加照片…</translation>
+    </message>
+    <message id="StartHint">
+        <source>or drop them here</source>
+        <translation>或将照片拖到此处</translation>
+    </message>
+    <message id="StartTitle">
+        <source>Put your mark on your photos</source>
+        <translation>为照片加上您的水印</translation>
+    </message>
+    <message id="Stop">
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message id="WarningCancel">
+        <source>Photos that are written already stay.</source>
+        <translation>已写入的照片会保留。</translation>
+    </message>
+    <message id="can'tAddRepeatedly">
+        <source>Some photos are in the list already</source>
+        <translation>部分照片已在列表中</translation>
+    </message>
+    <message id="delete no source file image">
+        <source>Their files were moved or deleted, so they were taken off the list.</source>
+        <translation>其文件已被移动或删除，因此已从列表中移除。</translation>
+    </message>
+    <message id="imagesFiltered">
+        <source>They were not added again.</source>
+        <translation>未重复添加。</translation>
+    </message>
+    <message id="tfByFitHeightSize">
+        <source>Greatest height</source>
+        <translation>最大高度</translation>
+    </message>
+    <message id="tfByFitWidthSize">
+        <source>Greatest width</source>
+        <translation>最大宽度</translation>
+    </message>
+    <message id="tfByHeight">
+        <source>Height</source>
+        <translation>高度</translation>
+    </message>
+    <message id="tfByPercentage">
+        <source>Percentage</source>
+        <translation>百分比</translation>
+    </message>
+    <message id="tfByWidth">
+        <source>Width</source>
+        <translation>宽度</translation>
+    </message>
+    <message id="PreferShowResult">
+        <source>Show the result after an export</source>
+        <translation>导出后显示结果</translation>
+    </message>
+    <message id="PreferNoApplyTip">
+        <source>Apply layouts without asking</source>
+        <translation>应用版式时不询问</translation>
+    </message>
+    <message id="PreferNoRemoveTip">
+        <source>Remove layouts without asking</source>
+        <translation>移除版式时不询问</translation>
+    </message>
+    <message id="Preferences">
+        <source>Preferences</source>
+        <translation>偏好设置</translation>
+    </message>
+    <message id="FilesRefused">
+        <source>Files that gave no photo: %1</source>
+        <translation>未能添加的文件：%1</translation>
+    </message>
+</context>
+</TS>
