@@ -64,7 +64,11 @@ TSTokenField::TSTokenField(QWidget *parent) : QTextEdit(parent)
     viewport()->setAutoFillBackground(false);
     setWraps(false);
     // Selected tokens look different, and the text around them is not repainted for that by itself.
-    connect(this, &QTextEdit::selectionChanged, viewport(), qOverload<>(&QWidget::update));
+    connect(this, &QTextEdit::selectionChanged, this, [this] {
+        // A selected token needs no caret beside it.
+        setCursorWidth(selectedToken() < 0 ? 1 : 0);
+        viewport()->update();
+    });
     connect(this, &QTextEdit::textChanged, this, &TSTokenField::reportChange);
 }
 

@@ -141,6 +141,11 @@ TEST_F(BrowserTest, GoesByRowsInAGrid)
     }
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, {250, 150});
     EXPECT_EQ(grid.selectedIndex(), 6);
+    grid.setSelectsWithArrows(false);
+    QTest::keyClick(&grid, Qt::Key_Left);
+    EXPECT_EQ(grid.selectedIndex(), 6);
+    QTest::keyClick(&grid, Qt::Key_Space);
+    EXPECT_EQ(grid.selectedIndex(), 5);
 }
 
 TEST_F(BrowserTest, KeepsOneSelectedUnlessNoneIsAllowed)
