@@ -45,12 +45,18 @@ void TSImageBrowserView::setDataSource(TSImageBrowserDataSource *source)
 void TSImageBrowserView::reloadData()
 {
     const int selected = selectedIndex();
+    const QPoint place(horizontalOffset(), verticalOffset());
     m_isReloading = true;
     m_model->reload();
     const int last = count() - 1;
     const bool wantsOne = selected >= 0 || !m_allowsEmptySelection;
     setSelectedIndex(wantsOne ? qBound(-1, qMax(selected, 0), last) : -1);
     m_isReloading = false;
+    if (selectedIndex() == selected) {
+        // Selecting scrolled there; whoever looks elsewhere goes on looking there.
+        horizontalScrollBar()->setValue(place.x());
+        verticalScrollBar()->setValue(place.y());
+    }
     if (selectedIndex() != selected)
         Q_EMIT selectionDidChange(selectedIndex());
 }

@@ -86,7 +86,8 @@ void TSPopover::paintEvent(QPaintEvent *)
 void TSPopover::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
-    Q_EMIT popoverDidClose();
+    if (!event->spontaneous())
+        Q_EMIT popoverDidClose();
 }
 
 void TSPopover::keyPressEvent(QKeyEvent *event)

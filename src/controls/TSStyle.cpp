@@ -310,6 +310,9 @@ int TSStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget
     // A click on the groove goes there, as with the other sliders of a photographer's desk.
     if (hint == SH_Slider_AbsoluteSetButtons)
         return Qt::LeftButton;
+    // An echo of disabled words in a lighter colour reads as a flaw on dark surfaces.
+    if (hint == SH_EtchDisabledText)
+        return 0;
     return QProxyStyle::styleHint(hint, option, widget, returnData);
 }
 

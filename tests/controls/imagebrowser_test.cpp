@@ -167,7 +167,9 @@ TEST_F(BrowserTest, ReloadsAroundTheSelection)
     strip.setSelectedIndex(7);
     const QSignalSpy changed(&strip, &TSImageBrowserView::selectionDidChange);
     photos.count = 20;
+    strip.horizontalScrollBar()->setValue(1500);
     strip.reloadData();
+    EXPECT_EQ(strip.horizontalScrollBar()->value(), 1500);
     EXPECT_EQ(strip.selectedIndex(), 7);
     EXPECT_EQ(changed.count(), 0);
     photos.count = 5;

@@ -54,6 +54,10 @@ TEST_F(WindowsTest, ASheetHangsFromItsWindowAndGoesWithIt)
     QTest::keyClick(&sheet, Qt::Key_Escape);
     EXPECT_EQ(rejected.count(), 1);
     EXPECT_EQ(window.children().size(), children - 1) << "the veil over the window is gone";
+    auto shortLived = std::make_unique<TSSheet>(&window);
+    shortLived->open();
+    shortLived.reset();
+    EXPECT_EQ(window.children().size(), children - 1);
 }
 
 TEST_F(WindowsTest, AnAlertAnswersByButton)
