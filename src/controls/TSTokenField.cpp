@@ -210,8 +210,9 @@ void TSTokenField::paintToken(QPainter &painter, int position)
     const bool isSelected = cursor.selectionStart() <= position && position < cursor.selectionEnd();
     const bool isAlone = selectedToken() == position;
     const QRect rect = tokenRect(position);
+    // The layout's selection lies at fractions of pixels.
     if (isAlone)
-        painter.fillRect(rect.adjusted(0, -1, 0, 1), palette().color(QPalette::Base));
+        painter.fillRect(rect.adjusted(-1, -1, 1, 1), palette().color(QPalette::Base));
     TSTokenPainter::paint(
         painter, rect,
         {token.title, font(), palette(), !token.menu.isEmpty(), isSelected, isSelected && !isAlone});
