@@ -38,7 +38,7 @@ QSize TSHUDButton::sizeHint() const
     case Qt::ToolButtonTextUnderIcon:
         return {qMax(icon.width(), text.width()) + arrow + 20, icon.height() + text.height() + 14};
     case Qt::ToolButtonTextBesideIcon:
-        return {icon.width() + text.width() + arrow + 26, qMax(icon.height() + 10, TSTheme::controlHeight)};
+        return {icon.width() + text.width() + arrow + 20, qMax(icon.height() + 10, TSTheme::controlHeight)};
     default:
         return icon + QSize(arrow + 12, 12);
     }

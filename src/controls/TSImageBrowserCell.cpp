@@ -48,7 +48,7 @@ QRectF TSImageBrowserCell::selectionFrame() const
 void TSImageBrowserCell::paint(QPainter &painter, const Look &look, const QPixmap &picture) const
 {
     painter.setRenderHint(QPainter::Antialiasing);
-    if (look.isSelected)
+    if (look.isSelected || look.isCurrent)
         paintSelection(painter, look);
     if (picture.isNull())
         paintPlaceholder(painter);
@@ -62,7 +62,7 @@ void TSImageBrowserCell::paintSelection(QPainter &painter, const Look &look) con
 {
     constexpr double width = 2, radius = 6;
     painter.setPen(QPen(look.selectionStroke, width));
-    painter.setBrush(look.selectionFill);
+    painter.setBrush(look.isSelected ? QBrush(look.selectionFill) : QBrush(Qt::NoBrush));
     painter.drawRoundedRect(selectionFrame().adjusted(1, 1, -1, -1), radius, radius);
 }
 
@@ -79,6 +79,9 @@ void TSImageBrowserCell::paintPicture(QPainter &painter, const QPixmap &picture)
     constexpr double radius = 3, shadowOpacity = 0.5;
     constexpr int shadowSteps = 4;
     const QRectF frame = imageFrame(picture.deviceIndependentSize());
+    if (picture.hasAlphaChannel())
+        // Cut-out shapes want no frame around their square.
+        return painter.drawPixmap(frame, picture, QRectF(QPointF(), picture.size()));
     painter.setPen(Qt::NoPen);
     for (int step = shadowSteps; step > 0; --step) {
         painter.setBrush(QColor::fromRgbF(0, 0, 0, float(shadowOpacity / shadowSteps / 2)));

@@ -18,6 +18,8 @@ public:
         QColor selectionFill;
         QColor selectionStroke;
         bool isSelected = false;
+        /// The keys would pick this cell, which is not selected.
+        bool isCurrent = false;
     };
 
     explicit TSImageBrowserCell(const QRectF &frame) : m_frame(frame) {}

@@ -45,13 +45,18 @@ void TSImageBrowserView::setDataSource(TSImageBrowserDataSource *source)
 void TSImageBrowserView::reloadData()
 {
     const int selected = selectedIndex();
+    const QPoint place(horizontalOffset(), verticalOffset());
     m_isReloading = true;
-    m_scaled.clear();
     m_model->reload();
     const int last = count() - 1;
     const bool wantsOne = selected >= 0 || !m_allowsEmptySelection;
     setSelectedIndex(wantsOne ? qBound(-1, qMax(selected, 0), last) : -1);
     m_isReloading = false;
+    if (selectedIndex() == selected) {
+        // Selecting scrolled there; whoever looks elsewhere goes on looking there.
+        horizontalScrollBar()->setValue(place.x());
+        verticalScrollBar()->setValue(place.y());
+    }
     if (selectedIndex() != selected)
         Q_EMIT selectionDidChange(selectedIndex());
 }
@@ -172,6 +177,8 @@ QPixmap TSImageBrowserView::pictureForCell(int index)
 
 void TSImageBrowserView::paintEvent(QPaintEvent *event)
 {
+    if (m_background.ratio() != devicePixelRatioF())
+        m_background.setScheme(palette(), devicePixelRatioF());
     QPainter painter(viewport());
     painter.save();
     painter.translate(-horizontalOffset(), -verticalOffset());
@@ -200,6 +207,9 @@ void TSImageBrowserView::paintCell(QPainter &painter, int index)
     look.selectionFill = QColor::fromRgbF(1, 0.8f, 0, 0.2f);
     look.selectionStroke = QColor::fromRgbF(1, 0.8f, 0);
     look.isSelected = selectionModel()->isSelected(item);
+    look.isCurrent = !m_selectsWithArrows && hasFocus() && item == currentIndex();
+    if (look.isCurrent && !look.isSelected)
+        look.selectionStroke = TSTheme::focusRing(palette());
     TSImageBrowserCell(cellRect(index)).paint(painter, look, pictureForCell(index));
 }
 
@@ -239,10 +249,21 @@ void TSImageBrowserView::keyPressEvent(QKeyEvent *event)
     const bool isDelete = event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace;
     if (isDelete && selectedIndex() >= 0)
         Q_EMIT removeItemsAtIndex(selectedIndex());
+    else if (pickByKey(event->key()))
+        event->accept();
     else if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && selectedIndex() >= 0)
         Q_EMIT cellWasDoubleClickedAtIndex(selectedIndex());
     else
         QAbstractItemView::keyPressEvent(event);
+}
+
+bool TSImageBrowserView::pickByKey(int key)
+{
+    const bool isPick = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
+    if (m_selectsWithArrows || !isPick || !currentIndex().isValid())
+        return false;
+    setSelectedIndex(currentIndex().row());
+    return true;
 }
 
 void TSImageBrowserView::mouseDoubleClickEvent(QMouseEvent *event)
@@ -273,7 +294,9 @@ QItemSelectionModel::SelectionFlags TSImageBrowserView::selectionCommand(const Q
                                                                          const QEvent *event) const
 {
     const bool isMove = event && event->type() == QEvent::MouseMove;
-    return index.isValid() && !isMove ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+    const bool isFrame = event && event->type() == QEvent::KeyPress && !m_selectsWithArrows;
+    return index.isValid() && !isMove && !isFrame ? QItemSelectionModel::ClearAndSelect
+                                                  : QItemSelectionModel::NoUpdate;
 }
 
 void TSImageBrowserView::currentChanged(const QModelIndex &current, const QModelIndex &previous)

@@ -40,6 +40,9 @@ public:
     void setIntercellSpacing(const QSize &spacing);
     void setShowsTitles(bool showsTitles);
     void setAllowsEmptySelection(bool allows) { m_allowsEmptySelection = allows; }
+    /// Without it the arrows only move a frame, and Return or Space selects what is in it: for grids where a
+    /// selection is an answer.
+    void setSelectsWithArrows(bool selects) { m_selectsWithArrows = selects; }
     /// Tooltips with the photos' descriptions.
     void setIsTip(bool isTip);
     /// Drags of photos, for reordering and to other programs, and drops of files.
@@ -109,6 +112,7 @@ private:
     void paintInsertionMark(QPainter &painter) const;
     void setInsertionMark(int gap);
     void updateTile();
+    bool pickByKey(int key);
 
     Arrangement m_arrangement;
     TSImageBrowserModel *m_model;
@@ -120,6 +124,7 @@ private:
     bool m_allowsEmptySelection = false;
     bool m_isMouseDragged = true;
     bool m_isReloading = false;
+    bool m_selectsWithArrows = true;
     int m_insertionMark = -1;
     int m_droppedAt = -1;
 };

@@ -32,7 +32,6 @@ void TSPopover::setContent(QWidget *content)
         delete item;
     }
     m_layout->addWidget(content);
-    setFocusProxy(content);
 }
 
 void TSPopover::showRelativeTo(const QWidget *anchor)
@@ -53,6 +52,7 @@ void TSPopover::showRelativeTo(const QWidget *anchor)
     move(left, m_isBelow ? below.y() - shade : above.y() + shade - size.height());
     show();
     setFocus(Qt::PopupFocusReason);
+    focusNextChild();
 }
 
 QPainterPath TSPopover::shape() const
@@ -74,8 +74,8 @@ void TSPopover::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     const QPainterPath outline = shape();
     painter.setBrush(Qt::NoBrush);
-    for (int width = shade; width > 0; width -= 2) {
-        painter.setPen(QPen(QColor(0, 0, 0, 10), 2 * width - 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    for (int width = shade; width > 0; --width) {
+        painter.setPen(QPen(QColor(0, 0, 0, 5), 2 * width - 1, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter.drawPath(outline.translated(0, 1));
     }
     painter.setPen(QPen(TSTheme::outline(palette()), 1));
@@ -86,7 +86,8 @@ void TSPopover::paintEvent(QPaintEvent *)
 void TSPopover::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
-    Q_EMIT popoverDidClose();
+    if (!event->spontaneous())
+        Q_EMIT popoverDidClose();
 }
 
 void TSPopover::keyPressEvent(QKeyEvent *event)

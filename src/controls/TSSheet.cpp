@@ -14,6 +14,12 @@ TSSheet::TSSheet(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::FramelessWi
         parent->window()->installEventFilter(this);
 }
 
+TSSheet::~TSSheet()
+{
+    // A sheet that goes while it is up hears of no hiding.
+    delete m_veil;
+}
+
 void TSSheet::setTopInset(int inset)
 {
     m_topInset = inset;

@@ -10,6 +10,7 @@ class TSSheet : public QDialog {
 
 public:
     explicit TSSheet(QWidget *parent);
+    ~TSSheet() override;
 
     /// How far below the window's top it hangs, in device-independent pixels: the height of a toolbar.
     void setTopInset(int inset);

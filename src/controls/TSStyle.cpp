@@ -54,7 +54,7 @@ void drawSurface(QPainter *painter, const QRectF &rect, const QColor &fill, cons
 QRectF focusFrame(const QStyleOption *option, const QWidget *widget)
 {
     const bool isButton = qobject_cast<const QAbstractButton *>(widget);
-    return isButton ? QRectF(option->rect).adjusted(-3, -2, 4, 2) : QRectF(option->rect);
+    return isButton ? QRectF(option->rect).adjusted(-5, -2, 5, 2) : QRectF(option->rect);
 }
 
 void drawPushButton(const QStyleOption *option, QPainter *painter)
@@ -293,6 +293,9 @@ int TSStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const Q
         return 16;
     case PM_ScrollBarExtent:
         return 12;
+    case PM_CheckBoxLabelSpacing:
+    case PM_RadioButtonLabelSpacing:
+        return 10;
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
         return 0;
@@ -307,6 +310,9 @@ int TSStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget
     // A click on the groove goes there, as with the other sliders of a photographer's desk.
     if (hint == SH_Slider_AbsoluteSetButtons)
         return Qt::LeftButton;
+    // An echo of disabled words in a lighter colour reads as a flaw on dark surfaces.
+    if (hint == SH_EtchDisabledText)
+        return 0;
     return QProxyStyle::styleHint(hint, option, widget, returnData);
 }
 

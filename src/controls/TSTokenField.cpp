@@ -64,7 +64,11 @@ TSTokenField::TSTokenField(QWidget *parent) : QTextEdit(parent)
     viewport()->setAutoFillBackground(false);
     setWraps(false);
     // Selected tokens look different, and the text around them is not repainted for that by itself.
-    connect(this, &QTextEdit::selectionChanged, viewport(), qOverload<>(&QWidget::update));
+    connect(this, &QTextEdit::selectionChanged, this, [this] {
+        // A selected token needs no caret beside it.
+        setCursorWidth(selectedToken() < 0 ? 1 : 0);
+        viewport()->update();
+    });
     connect(this, &QTextEdit::textChanged, this, &TSTokenField::reportChange);
 }
 
@@ -206,8 +210,9 @@ void TSTokenField::paintToken(QPainter &painter, int position)
     const bool isSelected = cursor.selectionStart() <= position && position < cursor.selectionEnd();
     const bool isAlone = selectedToken() == position;
     const QRect rect = tokenRect(position);
+    // The layout's selection lies at fractions of pixels.
     if (isAlone)
-        painter.fillRect(rect.adjusted(0, -1, 0, 1), palette().color(QPalette::Base));
+        painter.fillRect(rect.adjusted(-1, -1, 1, 1), palette().color(QPalette::Base));
     TSTokenPainter::paint(
         painter, rect,
         {token.title, font(), palette(), !token.menu.isEmpty(), isSelected, isSelected && !isAlone});

@@ -115,12 +115,10 @@ QMimeData *TSTokenField::createMimeDataFromSelection() const
 {
     const QTextCursor cursor = textCursor();
     TSFieldParts parts = partsBetween(cursor.selectionStart(), cursor.selectionEnd());
-    const auto isToken = [](const TSFieldPart &part) { return std::holds_alternative<TSFieldToken>(part); };
-    const auto token = std::find_if(parts.begin(), parts.end(), isToken);
-    // Settled: a drag of several tokens carries the first one alone; the clipboard takes them all.
+    // Settled: a drag carries the first of several pieces alone; the clipboard takes them all.
     const bool isDrag = QApplication::mouseButtons() & Qt::LeftButton;
-    if (isDrag && token != parts.end())
-        parts = {TSFieldPart(*token)};
+    if (isDrag && parts.size() > 1)
+        parts.erase(parts.begin() + 1, parts.end());
     return new TSTokenMimeData(std::move(parts));
 }
 

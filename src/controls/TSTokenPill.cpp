@@ -20,11 +20,12 @@ TSTokenPainter::Look lookOf(const TSTokenPill &pill)
 
 } // namespace
 
-TSTokenPill::TSTokenPill(const TSFieldToken &token, QWidget *parent) : QWidget(parent), m_token(token)
+TSTokenPill::TSTokenPill(const TSFieldToken &token, QWidget *parent) : QAbstractButton(parent), m_token(token)
 {
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::OpenHandCursor);
     setAccessibleName(token.title);
+    connect(this, &QAbstractButton::clicked, this, [this] { Q_EMIT activated(m_token); });
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -45,6 +46,7 @@ void TSTokenPill::paintEvent(QPaintEvent *)
 void TSTokenPill::mousePressEvent(QMouseEvent *event)
 {
     m_pressedAt = event->position().toPoint();
+    QAbstractButton::mousePressEvent(event);
 }
 
 void TSTokenPill::mouseMoveEvent(QMouseEvent *event)
@@ -54,21 +56,23 @@ void TSTokenPill::mouseMoveEvent(QMouseEvent *event)
         drag();
 }
 
-void TSTokenPill::mouseDoubleClickEvent(QMouseEvent *)
+void TSTokenPill::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    Q_EMIT activated(m_token);
+    // Its first click has put the token in place.
+    event->accept();
 }
 
 void TSTokenPill::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        Q_EMIT activated(m_token);
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
     else
-        QWidget::keyPressEvent(event);
+        QAbstractButton::keyPressEvent(event);
 }
 
 void TSTokenPill::drag()
 {
+    setDown(false);
     auto *drag = new QDrag(this);
     drag->setMimeData(new TSTokenMimeData({m_token}));
     QPixmap picture(size() * devicePixelRatioF());

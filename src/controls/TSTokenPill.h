@@ -2,11 +2,10 @@
 
 #include "controls/TSFieldPart.h"
 
-#include <QWidget>
+#include <QAbstractButton>
 
-/// One token of a palette, to be dragged into a token field. Without a pointer, Return or Space puts it
-/// there.
-class TSTokenPill : public QWidget {
+/// One token of a palette, to be dragged into a token field. A click, Return or Space puts it there as well.
+class TSTokenPill : public QAbstractButton {
     Q_OBJECT
 
 public:
@@ -17,7 +16,7 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 Q_SIGNALS:
-    /// A double click, or a key: insert the token where the field's cursor stands.
+    /// Insert the token where the field's cursor stands.
     void activated(const TSFieldToken &token);
 
 protected:

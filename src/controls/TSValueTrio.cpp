@@ -38,6 +38,9 @@ TSValueTrio::TSValueTrio(const QString &name, const QString &label, Parts parts,
     ::name(m_field, "tf", name, label);
     ::name(m_stepper, "st", name, label);
     setFocusProxy(m_field);
+    setTabOrder(m_field, m_stepper);
+    if (m_slider)
+        setTabOrder(m_slider, m_field);
     setRange(0, 100);
     connect(m_stepper, &TSStepper::valueChanged, this, &TSValueTrio::take);
     connect(m_field, &TSNumberField::valueEdited, this, &TSValueTrio::take);

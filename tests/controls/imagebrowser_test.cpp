@@ -141,6 +141,11 @@ TEST_F(BrowserTest, GoesByRowsInAGrid)
     }
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, {250, 150});
     EXPECT_EQ(grid.selectedIndex(), 6);
+    grid.setSelectsWithArrows(false);
+    QTest::keyClick(&grid, Qt::Key_Left);
+    EXPECT_EQ(grid.selectedIndex(), 6);
+    QTest::keyClick(&grid, Qt::Key_Space);
+    EXPECT_EQ(grid.selectedIndex(), 5);
 }
 
 TEST_F(BrowserTest, KeepsOneSelectedUnlessNoneIsAllowed)
@@ -162,7 +167,9 @@ TEST_F(BrowserTest, ReloadsAroundTheSelection)
     strip.setSelectedIndex(7);
     const QSignalSpy changed(&strip, &TSImageBrowserView::selectionDidChange);
     photos.count = 20;
+    strip.horizontalScrollBar()->setValue(1500);
     strip.reloadData();
+    EXPECT_EQ(strip.horizontalScrollBar()->value(), 1500);
     EXPECT_EQ(strip.selectedIndex(), 7);
     EXPECT_EQ(changed.count(), 0);
     photos.count = 5;

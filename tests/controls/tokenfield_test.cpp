@@ -157,7 +157,8 @@ TEST_F(TokenFieldTest, TakesTokensFromAPalette)
     TSTokenPill pill(token("Date", 4));
     QObject::connect(&pill, &TSTokenPill::activated, &field,
                      [&](const TSFieldToken &token) { field.insertParts({token}); });
-    QTest::keyClick(&pill, Qt::Key_Return);
+    QTest::mouseClick(&pill, Qt::LeftButton);
+    QTest::mouseDClick(&pill, Qt::LeftButton);
     EXPECT_EQ(told(field), "[Name]|_x|[Number]|[Date]");
     EXPECT_EQ(std::get<TSFieldToken>(field.parts().back()).object, QVariant(4));
     EXPECT_EQ(changes.count(), 2);

@@ -64,7 +64,6 @@ TEST_F(TrioTest, CorrectsTheFieldWithEachKey)
         EXPECT_EQ(trio.slider()->value(), row.value) << row.keys;
         EXPECT_EQ(trio.field()->value(), row.value) << row.keys;
     }
-    QTest::keyClick(trio.field(), Qt::Key_Tab);
 }
 
 TEST_F(TrioTest, ReportsEveryChangeOnce)
@@ -119,6 +118,11 @@ TEST_F(TrioTest, NamesItsParts)
         ASSERT_TRUE(part) << name;
         EXPECT_EQ(part->accessibleName(), QStringLiteral("Opacity"));
     }
+    trio.slider()->setFocus();
+    QTest::keyClick(trio.slider(), Qt::Key_Tab);
+    EXPECT_TRUE(trio.field()->hasFocus());
+    QTest::keyClick(trio.field(), Qt::Key_Tab);
+    EXPECT_TRUE(trio.stepper()->hasFocus());
 }
 
 TEST(Segments, OneIsOnAndTheArrowsMoveIt)

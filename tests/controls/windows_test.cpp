@@ -54,6 +54,10 @@ TEST_F(WindowsTest, ASheetHangsFromItsWindowAndGoesWithIt)
     QTest::keyClick(&sheet, Qt::Key_Escape);
     EXPECT_EQ(rejected.count(), 1);
     EXPECT_EQ(window.children().size(), children - 1) << "the veil over the window is gone";
+    auto shortLived = std::make_unique<TSSheet>(&window);
+    shortLived->open();
+    shortLived.reset();
+    EXPECT_EQ(window.children().size(), children - 1);
 }
 
 TEST_F(WindowsTest, AnAlertAnswersByButton)
@@ -122,12 +126,14 @@ TEST_F(WindowsTest, APopoverClosesByEscapeAndByAClickElsewhere)
     TSPopover popover;
     auto *content = new QWidget;
     content->setFixedSize(150, 80);
+    auto *inside = new QPushButton(content);
     popover.setContent(content);
     const QSignalSpy closed(&popover, &TSPopover::popoverDidClose);
     const QSignalSpy clicked(&anchor, &QPushButton::clicked);
     popover.showRelativeTo(&anchor);
     EXPECT_TRUE(popover.isVisible());
     EXPECT_EQ(content->size(), QSize(150, 80));
+    EXPECT_EQ(popover.focusWidget(), inside);
     EXPECT_EQ(popover.geometry().center().x(), anchor.mapToGlobal(anchor.rect().center()).x());
     EXPECT_GE(content->mapToGlobal(QPoint()).y(), anchor.mapToGlobal(QPoint(0, 30)).y());
     QTest::keyClick(&popover, Qt::Key_Escape);

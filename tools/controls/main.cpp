@@ -21,6 +21,7 @@
 #include <QDir>
 #include <QFormLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
@@ -325,6 +326,20 @@ QImage popover()
     return image;
 }
 
+QImage menu()
+{
+    QMenu menu;
+    for (const char *title : {"No Change", "lowercase", "UPPERCASE"})
+        menu.addAction(QString::fromLatin1(title))->setCheckable(true);
+    menu.actions()[1]->setChecked(true);
+    menu.addSeparator();
+    menu.addAction(QStringLiteral("Not now"))->setEnabled(false);
+    menu.popup({50, 50});
+    menu.setActiveAction(menu.actions()[0]);
+    QApplication::processEvents();
+    return menu.grab().toImage();
+}
+
 QImage alert()
 {
     QWidget window;
@@ -373,5 +388,6 @@ int main(int argc, char **argv)
     save("strip", strip());
     save("popover", popover());
     save("alert", alert());
+    save("menu", menu());
     return 0;
 }
