@@ -131,15 +131,9 @@ void TSMainWindow::makeToolbar()
     bar->setMovable(false);
     bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     bar->setIconSize(QSize(TSTheme::iconSize, TSTheme::iconSize));
-    const std::pair<QAction *, TSIconName> tools[] = {{loadPhotoAction, TSIconName::Add},
-                                                      {addTextAction, TSIconName::Text},
-                                                      {addStickerAction, TSIconName::Sticker},
-                                                      {openProfileAction, TSIconName::Layers},
-                                                      {openSaveProfile, TSIconName::SaveLayout}};
-    for (const auto &[action, icon] : tools) {
-        action->setIcon(TSIcon::icon(icon, palette()));
+    for (QAction *action :
+         {loadPhotoAction, addTextAction, addStickerAction, openProfileAction, openSaveProfile})
         bar->addAction(action);
-    }
     auto *space = new QWidget(bar);
     space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar->addWidget(space);
@@ -149,12 +143,33 @@ void TSMainWindow::makeToolbar()
     scBatchAdjust->setObjectName(QStringLiteral("scBatchAdjust"));
     scBatchAdjust->setAccessibleName(qtTrId("BatchAdjustName"));
     bar->addWidget(scBatchAdjust);
+    auto *gap = new QWidget(bar);
+    gap->setFixedWidth(TSTheme::spacing);
+    bar->addWidget(gap);
     pubZooming = new QComboBox(bar);
     pubZooming->setObjectName(QStringLiteral("pubZooming"));
     pubZooming->setAccessibleName(qtTrId("MenuZoom"));
     bar->addWidget(pubZooming);
-    exportPhotos->setIcon(TSIcon::icon(TSIconName::Export, palette()));
     bar->addAction(exportPhotos);
+    tintIcons();
+}
+
+void TSMainWindow::tintIcons()
+{
+    const std::pair<QAction *, TSIconName> icons[] = {
+        {loadPhotoAction, TSIconName::Add},        {addTextAction, TSIconName::Text},
+        {addStickerAction, TSIconName::Sticker},   {openProfileAction, TSIconName::Layers},
+        {openSaveProfile, TSIconName::SaveLayout}, {exportPhotos, TSIconName::Export}};
+    for (const auto &[action, name] : icons)
+        action->setIcon(TSIcon::icon(name, palette()));
+}
+
+/// The pictures are drawn in the colours of a scheme, which the desktop may change.
+void TSMainWindow::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && exportPhotos)
+        tintIcons();
 }
 
 QWidget *TSMainWindow::newContent()

@@ -56,6 +56,7 @@ Q_SIGNALS:
     void filesDropped(const QList<QUrl> &urls);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
@@ -67,6 +68,7 @@ private:
     void makeWatermarkMenu();
     void makeViewMenu();
     void makeToolbar();
+    void tintIcons();
     QWidget *newContent();
     QWidget *newStartView();
 

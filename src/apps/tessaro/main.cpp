@@ -1,5 +1,6 @@
 #include "controls/TSStyle.h"
 #include "shell/TSAppDelegate.h"
+#include "shell/TSDesktopScheme.h"
 
 #include <QApplication>
 
@@ -9,7 +10,9 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("Tessaro"));
     QApplication::setApplicationVersion(QStringLiteral(TESSARO_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("org.tessaro.Tessaro"));
-    TSStyle::apply();
+    const TSDesktopScheme desktop;
+    TSStyle::apply(desktop.scheme());
+    QObject::connect(&desktop, &TSDesktopScheme::schemeDidChange, &TSStyle::apply);
     TSAppDelegate::installTranslations();
     TSAppDelegate delegate;
     if (!delegate.becomeTheOnlyOne())
