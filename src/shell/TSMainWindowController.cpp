@@ -26,6 +26,7 @@ namespace {
 
 /// As many as a message can hold and still be read.
 constexpr qsizetype longestList = 8;
+constexpr int titleWidth = 420;
 constexpr const char *auxiliaryLineKey = "WatermarkAuxiliaryLine";
 
 TSDataManager *session()
@@ -353,17 +354,21 @@ void TSMainWindowController::showProcessingView(bool isShown, const QString &tit
         new QProgressDialog(title, canCancel ? qtTrId("Cancel") : QString(), 0, 0, m_window.get());
     m_processingWindow->setWindowModality(Qt::WindowModal);
     m_processingWindow->setMinimumDuration(0);
-    m_processingWindow->setMinimumWidth(460);
+    m_processingWindow->setMinimumWidth(titleWidth + 40);
     connect(m_processingWindow, &QProgressDialog::canceled, this,
             [this] { m_photoIntake->cancelProcessAction(); });
     m_processingWindow->show();
 }
 
+/// Faster than anybody reads; the intake waits for each of these.
 void TSMainWindowController::setProcessTitle(const QString &title)
 {
-    if (m_processingWindow)
-        m_processingWindow->setLabelText(
-            m_processingWindow->fontMetrics().elidedText(title, Qt::ElideMiddle, 420));
+    constexpr qint64 readable = 60;
+    if (!m_processingWindow || (m_titleTimer.isValid() && m_titleTimer.elapsed() < readable))
+        return;
+    m_titleTimer.start();
+    m_processingWindow->setLabelText(
+        m_processingWindow->fontMetrics().elidedText(title, Qt::ElideMiddle, titleWidth));
 }
 
 /// Repeated files have a message of their own.

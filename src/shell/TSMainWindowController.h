@@ -11,6 +11,7 @@
 #include "ui/export/TSExportController.h"
 
 #include <memory>
+#include <QElapsedTimer>
 #include <QPointer>
 
 class QProgressDialog;
@@ -76,6 +77,7 @@ private:
     std::unique_ptr<TSExportController> m_export;
     QPointer<TSPreferencesWindowController> m_preferences;
     QPointer<QProgressDialog> m_processingWindow;
+    QElapsedTimer m_titleTimer;
     QList<QUrl> m_waitingPhotos;
     /// Of the intake under way: each file that gave no photo, with its reason.
     QStringList m_refusals;
