@@ -1,12 +1,12 @@
 #include "platform/DrawingFile.h"
 
+#include "platform/Folders.h"
 #include "platform/LazyImage.h"
 #include "platform/RawPicture.h"
 #include "platform/RestrictedProcess.h"
 
 #include <algorithm>
 #include <optional>
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QRectF>
@@ -145,10 +145,9 @@ QImage rasterizeSvg(const QString &path, const QSizeF &box, QString *reason)
 {
     RestrictedProcess process;
     const QString target = process.path(QStringLiteral("pixels"));
-    const QString program = QCoreApplication::applicationDirPath() + QStringLiteral("/tessaro-svg");
-    const RestrictedProcess::Outcome outcome =
-        process.run(program, {QFileInfo(path).absoluteFilePath(),
-                              QString::number(std::min(box.width(), box.height())), target});
+    const RestrictedProcess::Outcome outcome = process.run(
+        helperProgram(QStringLiteral("tessaro-svg")),
+        {QFileInfo(path).absoluteFilePath(), QString::number(std::min(box.width(), box.height())), target});
     const bool isDone = outcome == RestrictedProcess::Outcome::Done;
     const QImage image = isDone ? readRawPicture(target, withMargin(box)) : QImage();
     return image.isNull() ? refused(reason, reasonOf(outcome, process.messages(),
