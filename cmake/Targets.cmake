@@ -8,6 +8,12 @@ function(tessaro_room name)
     target_link_libraries(${name} PUBLIC ${ARGN})
 endfunction()
 
+set(TESSARO_TEST_ENVIRONMENT
+    QT_QPA_PLATFORM=offscreen
+    LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/lsan.supp
+    ASAN_OPTIONS=detect_odr_violation=0
+    TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/tsan.supp)
+
 # A test program links only the room it tests, so that a room that leans on a higher one fails to link. A third
 # argument names another main than the usual one.
 function(tessaro_test name room)
@@ -18,5 +24,5 @@ function(tessaro_test name room)
     target_link_libraries(${name} PRIVATE ${room} ${support} GTest::gtest)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 300
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/lsan.supp;ASAN_OPTIONS=detect_odr_violation=0;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/tsan.supp")
+        ENVIRONMENT "${TESSARO_TEST_ENVIRONMENT}")
 endfunction()

@@ -3,6 +3,7 @@
 #include "shell/TSDesktopScheme.h"
 
 #include <QApplication>
+#include <QIcon>
 
 int main(int argc, char **argv)
 {
@@ -13,6 +14,7 @@ int main(int argc, char **argv)
     const TSDesktopScheme desktop;
     TSStyle::apply(desktop.scheme());
     QObject::connect(&desktop, &TSDesktopScheme::schemeDidChange, &TSStyle::apply);
+    QApplication::setWindowIcon(QIcon::fromTheme(QApplication::desktopFileName()));
     TSAppDelegate::installTranslations();
     TSAppDelegate delegate;
     if (!delegate.becomeTheOnlyOne())
