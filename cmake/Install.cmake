@@ -19,3 +19,9 @@ install(FILES ${packaging}/${application}.svg DESTINATION ${icons}/scalable/apps
 foreach(side 16 24 32 48 64 128 256)
     install(FILES ${packaging}/icons/${side}.png DESTINATION ${icons}/${side}x${side}/apps RENAME ${application}.png)
 endforeach()
+
+foreach(page tessaro.1 tessaro-batch.1)
+    install(FILES ${packaging}/man/${page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+    install(CODE "execute_process(COMMAND gzip -9nf
+        \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_MANDIR}/man1/${page}\" COMMAND_ERROR_IS_FATAL ANY)")
+endforeach()
