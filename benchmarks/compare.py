@@ -113,6 +113,14 @@ def photo_list(count):
     return names
 
 
+def measure_window():
+    photos = photo_list(1000)
+    command = [BIN / "bench-ui", Path(photos[0]).parent]
+    if not os.environ.get("DISPLAY") and shutil.which("xvfb-run"):
+        command = ["xvfb-run", "-a", "-s", "-screen 0 1600x1000x24", *command]
+    return subprocess.run(command, check=False).returncode
+
+
 def warm(photos):
     for photo in photos:
         Path(photo).read_bytes()
@@ -230,6 +238,7 @@ def main():
     parser.add_argument("--quick", action="store_true", help="two rounds instead of five")
     parser.add_argument("--rounds", type=int, help="how often each contender runs")
     parser.add_argument("--only", metavar="ROW", help="only the rows whose name contains this")
+    parser.add_argument("--ui", action="store_true", help="the window instead, on 1,000 photos; takes a display or Xvfb")
     options = parser.parse_args()
     rounds = options.rounds or (2 if options.quick else 5)
     rows = [row for row in ROWS if not options.only or options.only in row[0]]
@@ -239,6 +248,8 @@ def main():
     before = machine()
     WORK.mkdir(parents=True, exist_ok=True)
     make_photos()
+    if options.ui:
+        sys.exit(measure_window())
     runs, failed = run(chosen(rows), rounds)
     results = ratios(rows, runs)
     print_table(results, runs)

@@ -67,15 +67,18 @@ bool TSCacheFiller::evict(const Range &range)
     return true;
 }
 
+/// Also of a photo that only the preview has decoded. The picture of a frame or a drawing stays: it is the
+/// only one there is, and an export needs it.
 bool TSCacheFiller::evictPhoto(qint64 index)
 {
     if (isStopped())
         return false;
     TSDataManager *data = TSDataManager::dataManager();
-    const auto photo = TSPhotoManager::photoManager()->photoAtIndex(index);
-    if (photo && data->isCachedPhoto(photo.get())) {
+    const auto item = data->itemAtIndex(index);
+    if (item && item->repType == TSRepresentationType::IKImageBrowserPathRepresentationType) {
         data->removePhotoCacheAtIndexOnly(index);
-        data->removeCachedPhoto(photo.get());
+        if (const auto photo = TSPhotoManager::photoManager()->photoAtIndex(index))
+            data->removeCachedPhoto(photo.get());
     }
     return !isStopped();
 }

@@ -8,21 +8,25 @@ namespace {
 
 class CacheFillerTest : public SessionTest {
 protected:
-    /// Photos that bring their pictures along.
-    void addFrames(int count)
+    void addPhoto(const QString &path, TSRepresentationType type)
     {
-        for (int i = 0; i < count; ++i) {
-            auto item = std::make_shared<TSImageBrowserItem>();
-            item->path = item->resourePath = QStringLiteral("/photos/a.pdf/%1").arg(i);
-            item->repType = TSRepresentationType::IKImageBrowserCGImageRepresentationType;
+        auto item = std::make_shared<TSImageBrowserItem>();
+        item->path = item->resourePath = path;
+        item->repType = type;
+        if (type == TSRepresentationType::IKImageBrowserCGImageRepresentationType)
             item->cgimage = plainImage({8, 8});
-            item->frameSize = {8, 8};
-            session.data.addItem(item);
-            auto photo = std::make_shared<TSPhoto>();
-            photo->index = i;
-            photo->photoSize = {8, 8};
-            session.photos.addPhoto(photo);
-        }
+        session.data.addItem(item);
+        auto photo = std::make_shared<TSPhoto>();
+        photo->index = session.photos.photoCount();
+        photo->photoSize = {8, 8};
+        session.photos.addPhoto(photo);
+    }
+    void addPhotos(int count)
+    {
+        const QByteArray picture = bytesOf(session.writePng("one.png", plainImage({8, 8})));
+        for (int i = 0; i < count; ++i)
+            addPhoto(session.write(QStringLiteral("%1.png").arg(i), picture),
+                     TSRepresentationType::IKImageBrowserPathRepresentationType);
     }
     std::set<qint64> cached() const
     {
@@ -46,7 +50,7 @@ std::set<qint64> range(qint64 first, qint64 last)
 
 TEST_F(CacheFillerTest, NeighboursAreFilledAndFarOnesLetGo)
 {
-    addFrames(150);
+    addPhotos(150);
     {
         TSCacheFiller filler;
         session.photos.setSelectedPhoto(0);
@@ -63,11 +67,27 @@ TEST_F(CacheFillerTest, NeighboursAreFilledAndFarOnesLetGo)
     EXPECT_TRUE(session.data.isSelectedPhotoChanged);
 }
 
+/// A frame of a file has no other picture than the one that came with it.
+TEST_F(CacheFillerTest, FramesKeepTheirPictures)
+{
+    for (int i = 0; i < 210; ++i)
+        addPhoto(QStringLiteral("/photos/a.gif/%1").arg(i),
+                 TSRepresentationType::IKImageBrowserCGImageRepresentationType);
+    TSCacheFiller filler;
+    session.photos.setSelectedPhoto(0);
+    filler.cacheImages();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return cached() == range(1, 99); }, 10000));
+    session.photos.setSelectedPhoto(209);
+    filler.cacheImages();
+    for (qint64 i = 0; i < 210; ++i)
+        EXPECT_FALSE(session.data.itemAtIndex(i)->cgimage.isNull()) << i;
+}
+
 /// A change of the selection, or an emptied list, in the middle of the filling.
 TEST_F(CacheFillerTest, EndsWhenTheListOrTheSelectionChanges)
 {
     for (int round = 0; round < 20; ++round) {
-        addFrames(120);
+        addPhotos(120);
         session.data.isRemoveAllPhotos = false;
         TSCacheFiller filler;
         session.photos.setSelectedPhoto(60);
