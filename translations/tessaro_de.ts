@@ -351,5 +351,21 @@
         <source>Files that gave no photo: %1</source>
         <translation>Dateien, die kein Foto ergaben: %1</translation>
     </message>
+    <message id="Text Watermark">
+        <source>Text Watermark</source>
+        <translation>Text-Wasserzeichen</translation>
+    </message>
+    <message id="Image Watermark">
+        <source>Image Watermark</source>
+        <translation>Bild-Wasserzeichen</translation>
+    </message>
+    <message id="Group Watermark">
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message id="MarkPlace">
+        <source>%1 percent across, %2 percent down</source>
+        <translation>%1 Prozent von links, %2 Prozent von oben</translation>
+    </message>
 </context>
 </TS>

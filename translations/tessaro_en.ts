@@ -351,5 +351,21 @@
         <source>Files that gave no photo: %1</source>
         <translation>Files that gave no photo: %1</translation>
     </message>
+    <message id="Text Watermark">
+        <source>Text Watermark</source>
+        <translation>Text Watermark</translation>
+    </message>
+    <message id="Image Watermark">
+        <source>Image Watermark</source>
+        <translation>Image Watermark</translation>
+    </message>
+    <message id="Group Watermark">
+        <source>Group</source>
+        <translation>Group</translation>
+    </message>
+    <message id="MarkPlace">
+        <source>%1 percent across, %2 percent down</source>
+        <translation>%1 percent across, %2 percent down</translation>
+    </message>
 </context>
 </TS>

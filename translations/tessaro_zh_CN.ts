@@ -351,5 +351,21 @@
         <source>Files that gave no photo: %1</source>
         <translation>未能添加的文件：%1</translation>
     </message>
+    <message id="Text Watermark">
+        <source>Text Watermark</source>
+        <translation>文字水印</translation>
+    </message>
+    <message id="Image Watermark">
+        <source>Image Watermark</source>
+        <translation>图片水印</translation>
+    </message>
+    <message id="Group Watermark">
+        <source>Group</source>
+        <translation>组合水印</translation>
+    </message>
+    <message id="MarkPlace">
+        <source>%1 percent across, %2 percent down</source>
+        <translation>距左 %1%，距上 %2%</translation>
+    </message>
 </context>
 </TS>

@@ -4,6 +4,7 @@
 #include "controls/TSSegmentedControl.h"
 #include "controls/TSTheme.h"
 #include "ui/photos/TSPhotoStripView.h"
+#include "ui/preview/TSPreviewAccessible.h"
 #include "ui/preview/TSPreviewScrollView.h"
 
 #include <QCloseEvent>
@@ -175,6 +176,7 @@ void TSMainWindow::changeEvent(QEvent *event)
 QWidget *TSMainWindow::newContent()
 {
     auto *content = new QWidget(this);
+    TSPreviewAccessible::install();
     preview = new TSPreviewScrollView(content);
     preview->setObjectName(QStringLiteral("preview"));
     preview->setAccessibleName(qtTrId("PreviewName"));

@@ -6,6 +6,7 @@
 #include "ui/photos/TSPhotoStripView.h"
 #include "ui/preview/TSPreviewScrollView.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
@@ -190,6 +191,34 @@ TEST_F(MainWindowTest, ZoomAndWindowKeepTheMarkOnThePhoto)
     QTest::qWait(50);
     expectRect(placeInOutput(*mark).toRect(), place.toRect());
     EXPECT_LT(session.data.canvasFrame.bottom(), window().preview->viewport()->height());
+}
+
+TEST_F(MainWindowTest, MarksAreToldToAssistiveTechnology)
+{
+    addPhotos({session.writePng("a.png", plainImage({900, 600}))});
+    preview().creation().createNewText();
+    preview().creation().addStickerWithPath(session.writePng("my mark.png", plainImage({40, 20}, Qt::red)),
+                                            true);
+    QAccessibleInterface *canvas = QAccessible::queryAccessibleInterface(window().preview);
+    ASSERT_TRUE(canvas);
+    EXPECT_EQ(canvas->role(), QAccessible::Canvas);
+    ASSERT_EQ(canvas->childCount(), 2);
+    QAccessibleInterface *mark = canvas->child(0);
+    EXPECT_EQ(mark->text(QAccessible::Name), "my mark");
+    EXPECT_EQ(mark->role(), QAccessible::Graphic);
+    EXPECT_TRUE(mark->state().selected);
+    EXPECT_EQ(canvas->child(1)->role(), QAccessible::StaticText);
+    EXPECT_FALSE(canvas->child(1)->state().selected);
+    const QPoint middle = mark->rect().center();
+    EXPECT_EQ(canvas->childAt(middle.x(), middle.y()), mark);
+    EXPECT_EQ(canvas->indexOfChild(canvas->child(1)), 1);
+    // The marks one after the other by Tab, and then on to the next control.
+    window().preview->setFocus();
+    QTest::keyClick(window().preview, Qt::Key_Tab);
+    EXPECT_TRUE(canvas->child(1)->state().selected);
+    EXPECT_FALSE(mark->state().selected);
+    QTest::keyClick(window().preview, Qt::Key_Delete);
+    EXPECT_EQ(canvas->childCount(), 1);
 }
 
 /// What gives no photo is named once the others are in.

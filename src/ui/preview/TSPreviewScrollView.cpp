@@ -119,6 +119,12 @@ void TSPreviewScrollView::zoomListDidChange()
     Q_EMIT zoomListChanged();
 }
 
+QRect TSPreviewScrollView::onScreen(const QRectF &rect) const
+{
+    const QRect inView = rect.translated(-scrollOffset()).toAlignedRect();
+    return {viewport()->mapToGlobal(inView.topLeft()), inView.size()};
+}
+
 QPointF TSPreviewScrollView::scrollOffset() const
 {
     return QPointF(horizontalScrollBar()->value(), verticalScrollBar()->value());

@@ -16,6 +16,8 @@ public:
     explicit TSPreviewScrollView(QWidget *parent = nullptr);
 
     TSPreview &preview() { return m_preview; }
+    /// A rectangle of overlay space, in pixels of the screen.
+    QRect onScreen(const QRectF &rect) const;
 
 Q_SIGNALS:
     /// The titles and check marks of the zoom list are to be shown anew.
