@@ -19,6 +19,18 @@
         <source>Change all photos or the selected one</source>
         <translation>Alle Fotos oder das ausgewählte ändern</translation>
     </message>
+    <message id="By Height">
+        <source>By Height</source>
+        <translation>Nach Höhe</translation>
+    </message>
+    <message id="By Percentage">
+        <source>By Percentage</source>
+        <translation>Nach Prozent</translation>
+    </message>
+    <message id="By Width">
+        <source>By Width</source>
+        <translation>Nach Breite</translation>
+    </message>
     <message id="Cancel">
         <source>Cancel</source>
         <translation>Abbrechen</translation>
@@ -55,6 +67,14 @@
         <source>Exporting…</source>
         <translation>Export läuft …</translation>
     </message>
+    <message id="Date Created">
+        <source>Date Created</source>
+        <translation>Erstelldatum</translation>
+    </message>
+    <message id="Date Modified">
+        <source>Date Modified</source>
+        <translation>Änderungsdatum</translation>
+    </message>
     <message id="Do you want to cover watermarks">
         <source>The layout takes the place of the watermarks on the photos.</source>
         <translation>Das Layout tritt an die Stelle der Wasserzeichen auf den Fotos.</translation>
@@ -79,6 +99,14 @@
         <source>The photos are exported</source>
         <translation>Die Fotos sind exportiert</translation>
     </message>
+    <message id="ExportDonePartly">
+        <source>%1 of %2 photos are exported</source>
+        <translation>%1 von %2 Fotos sind exportiert</translation>
+    </message>
+    <message id="ExportInhibit">
+        <source>Photos are being exported</source>
+        <translation>Fotos werden exportiert</translation>
+    </message>
     <message id="ExportStop">
         <source>Stop</source>
         <translation>Anhalten</translation>
@@ -87,13 +115,41 @@
         <source>This file could not be shown: </source>
         <translation>Diese Datei konnte nicht angezeigt werden: </translation>
     </message>
+    <message id="FilesRefused">
+        <source>Files that gave no photo: %1</source>
+        <translation>Dateien, die kein Foto ergaben: %1</translation>
+    </message>
     <message id="Fit">
         <source>Fit</source>
         <translation>Einpassen</translation>
     </message>
+    <message id="Fit Size">
+        <source>Fit Size</source>
+        <translation>In Rahmen einpassen</translation>
+    </message>
+    <message id="FolderIsGone">
+        <source>The folder %1 is no longer there.</source>
+        <translation>Den Ordner %1 gibt es nicht mehr.</translation>
+    </message>
+    <message id="FolderIsReadOnly">
+        <source>The folder %1 cannot be written to.</source>
+        <translation>In den Ordner %1 kann nicht geschrieben werden.</translation>
+    </message>
     <message id="Format">
         <source>Format</source>
         <translation>Format</translation>
+    </message>
+    <message id="Group Watermark">
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message id="Image Watermark">
+        <source>Image Watermark</source>
+        <translation>Bild-Wasserzeichen</translation>
+    </message>
+    <message id="Keep Original Size">
+        <source>Keep Original Size</source>
+        <translation>Originalgröße behalten</translation>
     </message>
     <message id="Loading...">
         <source>Loading…</source>
@@ -102,6 +158,10 @@
     <message id="LoadingPhoto">
         <source>Loading</source>
         <translation>Laden</translation>
+    </message>
+    <message id="MarkPlace">
+        <source>%1 percent across, %2 percent down</source>
+        <translation>%1 Prozent von links, %2 Prozent von oben</translation>
     </message>
     <message id="MenuAddImage">
         <source>Add Image…</source>
@@ -183,6 +243,10 @@
         <source>Zoom</source>
         <translation>Zoom</translation>
     </message>
+    <message id="Name">
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
     <message id="NameRepetition">
         <source>Rename numbers the new files. Replace writes over the files that are there. The answer holds for the whole export.</source>
         <translation>Umbenennen nummeriert die neuen Dateien. Ersetzen überschreibt die vorhandenen. Die Antwort gilt für den ganzen Export.</translation>
@@ -190,6 +254,10 @@
     <message id="NameRepetitionTitle">
         <source>A file of that name is there already</source>
         <translation>Eine Datei mit diesem Namen gibt es schon</translation>
+    </message>
+    <message id="No Change">
+        <source>No Change</source>
+        <translation>Unverändert</translation>
     </message>
     <message id="No Picture">
         <source>Its file was moved or deleted. The other photos are exported.</source>
@@ -203,6 +271,14 @@
         <source>No layout could be read there.</source>
         <translation>Dort war kein Layout zu lesen.</translation>
     </message>
+    <message id="NoOutputName">
+        <source>Without a name nothing is exported</source>
+        <translation>Ohne Namen wird nichts exportiert</translation>
+    </message>
+    <message id="Number">
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
     <message id="OK">
         <source>OK</source>
         <translation>OK</translation>
@@ -210,6 +286,10 @@
     <message id="OutputName">
         <source>Name</source>
         <translation>Name</translation>
+    </message>
+    <message id="PaletteHint">
+        <source>Click it or drag it into the name</source>
+        <translation>Anklicken oder in den Namen ziehen</translation>
     </message>
     <message id="PhotoBigger">
         <source>The output would be larger than %1 × %2 pixels. That takes long and much memory.</source>
@@ -222,6 +302,26 @@
     <message id="Photos">
         <source>Photos</source>
         <translation>Fotos</translation>
+    </message>
+    <message id="Pixels">
+        <source>pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message id="PreferNoApplyTip">
+        <source>Apply layouts without asking</source>
+        <translation>Layouts ohne Nachfrage anwenden</translation>
+    </message>
+    <message id="PreferNoRemoveTip">
+        <source>Remove layouts without asking</source>
+        <translation>Layouts ohne Nachfrage entfernen</translation>
+    </message>
+    <message id="PreferShowResult">
+        <source>Show the result after an export</source>
+        <translation>Ergebnis nach einem Export zeigen</translation>
+    </message>
+    <message id="Preferences">
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
     </message>
     <message id="PreviewName">
         <source>Preview</source>
@@ -279,6 +379,10 @@
         <source>Some photos are gone</source>
         <translation>Einige Fotos sind verschwunden</translation>
     </message>
+    <message id="SourceIsGone">
+        <source>The file of the photo is no longer there.</source>
+        <translation>Die Datei des Fotos ist nicht mehr da.</translation>
+    </message>
     <message id="StartButton">
         <source>Add Photos…</source>
         <translation>Fotos hinzufügen …</translation>
@@ -295,6 +399,14 @@
         <source>Stop</source>
         <translation>Anhalten</translation>
     </message>
+    <message id="Text Watermark">
+        <source>Text Watermark</source>
+        <translation>Text-Wasserzeichen</translation>
+    </message>
+    <message id="UPPERCASE">
+        <source>UPPERCASE</source>
+        <translation>GROSSBUCHSTABEN</translation>
+    </message>
     <message id="WarningCancel">
         <source>Photos that are written already stay.</source>
         <translation>Schon geschriebene Fotos bleiben.</translation>
@@ -310,6 +422,10 @@
     <message id="imagesFiltered">
         <source>They were not added again.</source>
         <translation>Sie wurden nicht noch einmal hinzugefügt.</translation>
+    </message>
+    <message id="lowercase">
+        <source>lowercase</source>
+        <translation>kleinbuchstaben</translation>
     </message>
     <message id="tfByFitHeightSize">
         <source>Greatest height</source>
@@ -330,42 +446,6 @@
     <message id="tfByWidth">
         <source>Width</source>
         <translation>Breite</translation>
-    </message>
-    <message id="PreferShowResult">
-        <source>Show the result after an export</source>
-        <translation>Ergebnis nach einem Export zeigen</translation>
-    </message>
-    <message id="PreferNoApplyTip">
-        <source>Apply layouts without asking</source>
-        <translation>Layouts ohne Nachfrage anwenden</translation>
-    </message>
-    <message id="PreferNoRemoveTip">
-        <source>Remove layouts without asking</source>
-        <translation>Layouts ohne Nachfrage entfernen</translation>
-    </message>
-    <message id="Preferences">
-        <source>Preferences</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message id="FilesRefused">
-        <source>Files that gave no photo: %1</source>
-        <translation>Dateien, die kein Foto ergaben: %1</translation>
-    </message>
-    <message id="Text Watermark">
-        <source>Text Watermark</source>
-        <translation>Text-Wasserzeichen</translation>
-    </message>
-    <message id="Image Watermark">
-        <source>Image Watermark</source>
-        <translation>Bild-Wasserzeichen</translation>
-    </message>
-    <message id="Group Watermark">
-        <source>Group</source>
-        <translation>Gruppe</translation>
-    </message>
-    <message id="MarkPlace">
-        <source>%1 percent across, %2 percent down</source>
-        <translation>%1 Prozent von links, %2 Prozent von oben</translation>
     </message>
 </context>
 </TS>

@@ -19,6 +19,18 @@
         <source>Change all photos or the selected one</source>
         <translation>Change all photos or the selected one</translation>
     </message>
+    <message id="By Height">
+        <source>By Height</source>
+        <translation>By Height</translation>
+    </message>
+    <message id="By Percentage">
+        <source>By Percentage</source>
+        <translation>By Percentage</translation>
+    </message>
+    <message id="By Width">
+        <source>By Width</source>
+        <translation>By Width</translation>
+    </message>
     <message id="Cancel">
         <source>Cancel</source>
         <translation>Cancel</translation>
@@ -55,6 +67,14 @@
         <source>Exporting…</source>
         <translation>Exporting…</translation>
     </message>
+    <message id="Date Created">
+        <source>Date Created</source>
+        <translation>Date Created</translation>
+    </message>
+    <message id="Date Modified">
+        <source>Date Modified</source>
+        <translation>Date Modified</translation>
+    </message>
     <message id="Do you want to cover watermarks">
         <source>The layout takes the place of the watermarks on the photos.</source>
         <translation>The layout takes the place of the watermarks on the photos.</translation>
@@ -79,6 +99,14 @@
         <source>The photos are exported</source>
         <translation>The photos are exported</translation>
     </message>
+    <message id="ExportDonePartly">
+        <source>%1 of %2 photos are exported</source>
+        <translation>%1 of %2 photos are exported</translation>
+    </message>
+    <message id="ExportInhibit">
+        <source>Photos are being exported</source>
+        <translation>Photos are being exported</translation>
+    </message>
     <message id="ExportStop">
         <source>Stop</source>
         <translation>Stop</translation>
@@ -87,13 +115,41 @@
         <source>This file could not be shown: </source>
         <translation>This file could not be shown: </translation>
     </message>
+    <message id="FilesRefused">
+        <source>Files that gave no photo: %1</source>
+        <translation>Files that gave no photo: %1</translation>
+    </message>
     <message id="Fit">
         <source>Fit</source>
         <translation>Fit</translation>
     </message>
+    <message id="Fit Size">
+        <source>Fit Size</source>
+        <translation>Fit Size</translation>
+    </message>
+    <message id="FolderIsGone">
+        <source>The folder %1 is no longer there.</source>
+        <translation>The folder %1 is no longer there.</translation>
+    </message>
+    <message id="FolderIsReadOnly">
+        <source>The folder %1 cannot be written to.</source>
+        <translation>The folder %1 cannot be written to.</translation>
+    </message>
     <message id="Format">
         <source>Format</source>
         <translation>Format</translation>
+    </message>
+    <message id="Group Watermark">
+        <source>Group</source>
+        <translation>Group</translation>
+    </message>
+    <message id="Image Watermark">
+        <source>Image Watermark</source>
+        <translation>Image Watermark</translation>
+    </message>
+    <message id="Keep Original Size">
+        <source>Keep Original Size</source>
+        <translation>Keep Original Size</translation>
     </message>
     <message id="Loading...">
         <source>Loading…</source>
@@ -102,6 +158,10 @@
     <message id="LoadingPhoto">
         <source>Loading</source>
         <translation>Loading</translation>
+    </message>
+    <message id="MarkPlace">
+        <source>%1 percent across, %2 percent down</source>
+        <translation>%1 percent across, %2 percent down</translation>
     </message>
     <message id="MenuAddImage">
         <source>Add Image…</source>
@@ -183,6 +243,10 @@
         <source>Zoom</source>
         <translation>Zoom</translation>
     </message>
+    <message id="Name">
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
     <message id="NameRepetition">
         <source>Rename numbers the new files. Replace writes over the files that are there. The answer holds for the whole export.</source>
         <translation>Rename numbers the new files. Replace writes over the files that are there. The answer holds for the whole export.</translation>
@@ -190,6 +254,10 @@
     <message id="NameRepetitionTitle">
         <source>A file of that name is there already</source>
         <translation>A file of that name is there already</translation>
+    </message>
+    <message id="No Change">
+        <source>No Change</source>
+        <translation>No Change</translation>
     </message>
     <message id="No Picture">
         <source>Its file was moved or deleted. The other photos are exported.</source>
@@ -203,6 +271,14 @@
         <source>No layout could be read there.</source>
         <translation>No layout could be read there.</translation>
     </message>
+    <message id="NoOutputName">
+        <source>Without a name nothing is exported</source>
+        <translation>Without a name nothing is exported</translation>
+    </message>
+    <message id="Number">
+        <source>Number</source>
+        <translation>Number</translation>
+    </message>
     <message id="OK">
         <source>OK</source>
         <translation>OK</translation>
@@ -210,6 +286,10 @@
     <message id="OutputName">
         <source>Name</source>
         <translation>Name</translation>
+    </message>
+    <message id="PaletteHint">
+        <source>Click it or drag it into the name</source>
+        <translation>Click it or drag it into the name</translation>
     </message>
     <message id="PhotoBigger">
         <source>The output would be larger than %1 × %2 pixels. That takes long and much memory.</source>
@@ -222,6 +302,26 @@
     <message id="Photos">
         <source>Photos</source>
         <translation>Photos</translation>
+    </message>
+    <message id="Pixels">
+        <source>pixels</source>
+        <translation>pixels</translation>
+    </message>
+    <message id="PreferNoApplyTip">
+        <source>Apply layouts without asking</source>
+        <translation>Apply layouts without asking</translation>
+    </message>
+    <message id="PreferNoRemoveTip">
+        <source>Remove layouts without asking</source>
+        <translation>Remove layouts without asking</translation>
+    </message>
+    <message id="PreferShowResult">
+        <source>Show the result after an export</source>
+        <translation>Show the result after an export</translation>
+    </message>
+    <message id="Preferences">
+        <source>Preferences</source>
+        <translation>Preferences</translation>
     </message>
     <message id="PreviewName">
         <source>Preview</source>
@@ -279,6 +379,10 @@
         <source>Some photos are gone</source>
         <translation>Some photos are gone</translation>
     </message>
+    <message id="SourceIsGone">
+        <source>The file of the photo is no longer there.</source>
+        <translation>The file of the photo is no longer there.</translation>
+    </message>
     <message id="StartButton">
         <source>Add Photos…</source>
         <translation>Add Photos…</translation>
@@ -295,6 +399,14 @@
         <source>Stop</source>
         <translation>Stop</translation>
     </message>
+    <message id="Text Watermark">
+        <source>Text Watermark</source>
+        <translation>Text Watermark</translation>
+    </message>
+    <message id="UPPERCASE">
+        <source>UPPERCASE</source>
+        <translation>UPPERCASE</translation>
+    </message>
     <message id="WarningCancel">
         <source>Photos that are written already stay.</source>
         <translation>Photos that are written already stay.</translation>
@@ -310,6 +422,10 @@
     <message id="imagesFiltered">
         <source>They were not added again.</source>
         <translation>They were not added again.</translation>
+    </message>
+    <message id="lowercase">
+        <source>lowercase</source>
+        <translation>lowercase</translation>
     </message>
     <message id="tfByFitHeightSize">
         <source>Greatest height</source>
@@ -330,42 +446,6 @@
     <message id="tfByWidth">
         <source>Width</source>
         <translation>Width</translation>
-    </message>
-    <message id="PreferShowResult">
-        <source>Show the result after an export</source>
-        <translation>Show the result after an export</translation>
-    </message>
-    <message id="PreferNoApplyTip">
-        <source>Apply layouts without asking</source>
-        <translation>Apply layouts without asking</translation>
-    </message>
-    <message id="PreferNoRemoveTip">
-        <source>Remove layouts without asking</source>
-        <translation>Remove layouts without asking</translation>
-    </message>
-    <message id="Preferences">
-        <source>Preferences</source>
-        <translation>Preferences</translation>
-    </message>
-    <message id="FilesRefused">
-        <source>Files that gave no photo: %1</source>
-        <translation>Files that gave no photo: %1</translation>
-    </message>
-    <message id="Text Watermark">
-        <source>Text Watermark</source>
-        <translation>Text Watermark</translation>
-    </message>
-    <message id="Image Watermark">
-        <source>Image Watermark</source>
-        <translation>Image Watermark</translation>
-    </message>
-    <message id="Group Watermark">
-        <source>Group</source>
-        <translation>Group</translation>
-    </message>
-    <message id="MarkPlace">
-        <source>%1 percent across, %2 percent down</source>
-        <translation>%1 percent across, %2 percent down</translation>
     </message>
 </context>
 </TS>

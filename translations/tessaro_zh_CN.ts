@@ -19,6 +19,18 @@
         <source>Change all photos or the selected one</source>
         <translation>更改所有照片或仅所选照片</translation>
     </message>
+    <message id="By Height">
+        <source>By Height</source>
+        <translation>按高度</translation>
+    </message>
+    <message id="By Percentage">
+        <source>By Percentage</source>
+        <translation>按百分比</translation>
+    </message>
+    <message id="By Width">
+        <source>By Width</source>
+        <translation>按宽度</translation>
+    </message>
     <message id="Cancel">
         <source>Cancel</source>
         <translation>取消</translation>
@@ -55,6 +67,14 @@
         <source>Exporting…</source>
         <translation>正在导出…</translation>
     </message>
+    <message id="Date Created">
+        <source>Date Created</source>
+        <translation>创建日期</translation>
+    </message>
+    <message id="Date Modified">
+        <source>Date Modified</source>
+        <translation>修改日期</translation>
+    </message>
     <message id="Do you want to cover watermarks">
         <source>The layout takes the place of the watermarks on the photos.</source>
         <translation>该版式将取代照片上现有的水印。</translation>
@@ -79,6 +99,14 @@
         <source>The photos are exported</source>
         <translation>照片已导出</translation>
     </message>
+    <message id="ExportDonePartly">
+        <source>%1 of %2 photos are exported</source>
+        <translation>已导出 %1 张照片，共 %2 张</translation>
+    </message>
+    <message id="ExportInhibit">
+        <source>Photos are being exported</source>
+        <translation>正在导出照片</translation>
+    </message>
     <message id="ExportStop">
         <source>Stop</source>
         <translation>停止</translation>
@@ -87,13 +115,41 @@
         <source>This file could not be shown: </source>
         <translation>无法显示此文件：</translation>
     </message>
+    <message id="FilesRefused">
+        <source>Files that gave no photo: %1</source>
+        <translation>未能添加的文件：%1</translation>
+    </message>
     <message id="Fit">
         <source>Fit</source>
         <translation>适合窗口</translation>
     </message>
+    <message id="Fit Size">
+        <source>Fit Size</source>
+        <translation>适合尺寸</translation>
+    </message>
+    <message id="FolderIsGone">
+        <source>The folder %1 is no longer there.</source>
+        <translation>文件夹 %1 已不存在。</translation>
+    </message>
+    <message id="FolderIsReadOnly">
+        <source>The folder %1 cannot be written to.</source>
+        <translation>无法写入文件夹 %1。</translation>
+    </message>
     <message id="Format">
         <source>Format</source>
         <translation>格式</translation>
+    </message>
+    <message id="Group Watermark">
+        <source>Group</source>
+        <translation>组合水印</translation>
+    </message>
+    <message id="Image Watermark">
+        <source>Image Watermark</source>
+        <translation>图片水印</translation>
+    </message>
+    <message id="Keep Original Size">
+        <source>Keep Original Size</source>
+        <translation>保持原始大小</translation>
     </message>
     <message id="Loading...">
         <source>Loading…</source>
@@ -102,6 +158,10 @@
     <message id="LoadingPhoto">
         <source>Loading</source>
         <translation>正在载入</translation>
+    </message>
+    <message id="MarkPlace">
+        <source>%1 percent across, %2 percent down</source>
+        <translation>距左 %1%，距上 %2%</translation>
     </message>
     <message id="MenuAddImage">
         <source>Add Image…</source>
@@ -183,6 +243,10 @@
         <source>Zoom</source>
         <translation>缩放</translation>
     </message>
+    <message id="Name">
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
     <message id="NameRepetition">
         <source>Rename numbers the new files. Replace writes over the files that are there. The answer holds for the whole export.</source>
         <translation>“重命名”会为新文件编号，“替换”会覆盖现有文件。此选择适用于整个导出。</translation>
@@ -190,6 +254,10 @@
     <message id="NameRepetitionTitle">
         <source>A file of that name is there already</source>
         <translation>已存在同名文件</translation>
+    </message>
+    <message id="No Change">
+        <source>No Change</source>
+        <translation>不更改</translation>
     </message>
     <message id="No Picture">
         <source>Its file was moved or deleted. The other photos are exported.</source>
@@ -203,6 +271,14 @@
         <source>No layout could be read there.</source>
         <translation>无法从该处读取版式。</translation>
     </message>
+    <message id="NoOutputName">
+        <source>Without a name nothing is exported</source>
+        <translation>没有名称则不会导出任何照片</translation>
+    </message>
+    <message id="Number">
+        <source>Number</source>
+        <translation>编号</translation>
+    </message>
     <message id="OK">
         <source>OK</source>
         <translation>好</translation>
@@ -210,6 +286,10 @@
     <message id="OutputName">
         <source>Name</source>
         <translation>名称</translation>
+    </message>
+    <message id="PaletteHint">
+        <source>Click it or drag it into the name</source>
+        <translation>点击或拖入名称</translation>
     </message>
     <message id="PhotoBigger">
         <source>The output would be larger than %1 × %2 pixels. That takes long and much memory.</source>
@@ -222,6 +302,26 @@
     <message id="Photos">
         <source>Photos</source>
         <translation>照片</translation>
+    </message>
+    <message id="Pixels">
+        <source>pixels</source>
+        <translation>像素</translation>
+    </message>
+    <message id="PreferNoApplyTip">
+        <source>Apply layouts without asking</source>
+        <translation>应用版式时不询问</translation>
+    </message>
+    <message id="PreferNoRemoveTip">
+        <source>Remove layouts without asking</source>
+        <translation>移除版式时不询问</translation>
+    </message>
+    <message id="PreferShowResult">
+        <source>Show the result after an export</source>
+        <translation>导出后显示结果</translation>
+    </message>
+    <message id="Preferences">
+        <source>Preferences</source>
+        <translation>偏好设置</translation>
     </message>
     <message id="PreviewName">
         <source>Preview</source>
@@ -279,6 +379,10 @@
         <source>Some photos are gone</source>
         <translation>部分照片已不存在</translation>
     </message>
+    <message id="SourceIsGone">
+        <source>The file of the photo is no longer there.</source>
+        <translation>照片的文件已不存在。</translation>
+    </message>
     <message id="StartButton">
         <source>Add Photos…</source>
         <translation>添加照片…</translation>
@@ -295,6 +399,14 @@
         <source>Stop</source>
         <translation>停止</translation>
     </message>
+    <message id="Text Watermark">
+        <source>Text Watermark</source>
+        <translation>文字水印</translation>
+    </message>
+    <message id="UPPERCASE">
+        <source>UPPERCASE</source>
+        <translation>大写</translation>
+    </message>
     <message id="WarningCancel">
         <source>Photos that are written already stay.</source>
         <translation>已写入的照片会保留。</translation>
@@ -310,6 +422,10 @@
     <message id="imagesFiltered">
         <source>They were not added again.</source>
         <translation>未重复添加。</translation>
+    </message>
+    <message id="lowercase">
+        <source>lowercase</source>
+        <translation>小写</translation>
     </message>
     <message id="tfByFitHeightSize">
         <source>Greatest height</source>
@@ -330,42 +446,6 @@
     <message id="tfByWidth">
         <source>Width</source>
         <translation>宽度</translation>
-    </message>
-    <message id="PreferShowResult">
-        <source>Show the result after an export</source>
-        <translation>导出后显示结果</translation>
-    </message>
-    <message id="PreferNoApplyTip">
-        <source>Apply layouts without asking</source>
-        <translation>应用版式时不询问</translation>
-    </message>
-    <message id="PreferNoRemoveTip">
-        <source>Remove layouts without asking</source>
-        <translation>移除版式时不询问</translation>
-    </message>
-    <message id="Preferences">
-        <source>Preferences</source>
-        <translation>偏好设置</translation>
-    </message>
-    <message id="FilesRefused">
-        <source>Files that gave no photo: %1</source>
-        <translation>未能添加的文件：%1</translation>
-    </message>
-    <message id="Text Watermark">
-        <source>Text Watermark</source>
-        <translation>文字水印</translation>
-    </message>
-    <message id="Image Watermark">
-        <source>Image Watermark</source>
-        <translation>图片水印</translation>
-    </message>
-    <message id="Group Watermark">
-        <source>Group</source>
-        <translation>组合水印</translation>
-    </message>
-    <message id="MarkPlace">
-        <source>%1 percent across, %2 percent down</source>
-        <translation>距左 %1%，距上 %2%</translation>
     </message>
 </context>
 </TS>

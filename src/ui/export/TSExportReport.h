@@ -1,0 +1,40 @@
+#pragma once
+
+#include "export/TSExportHost.h"
+
+#include <QString>
+#include <vector>
+
+/// What a run could not do, in sentences for the user. Filled by the thread of the run, read when that has
+/// ended.
+class TSExportReport {
+public:
+    void add(const QString &photoName, const TSExportOutcome &outcome);
+    /// A run that could not even begin.
+    void addAll(qint64 photoCount, const QString &reason);
+
+    qint64 writtenCount() const { return m_writtenCount; }
+    /// Photos that were looked for, and could not be written.
+    qint64 failedCount() const { return m_failedCount; }
+    /// These, and the photos whose file had gone.
+    qint64 missedCount() const { return m_missedCount; }
+    /// One sentence a reason, with the photo's name or how many photos it kept from being written; no more
+    /// than fit on a sheet.
+    QString sentences() const;
+
+    static QString folderReason(const QString &folder);
+
+private:
+    void miss(const QString &photoName, const QString &reason, qint64 count);
+
+    struct Missed {
+        QString reason;
+        QString photoName;
+        qint64 count = 0;
+    };
+
+    std::vector<Missed> m_missed;
+    qint64 m_writtenCount = 0;
+    qint64 m_failedCount = 0;
+    qint64 m_missedCount = 0;
+};
