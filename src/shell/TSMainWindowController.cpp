@@ -115,6 +115,10 @@ void TSMainWindowController::initActions()
     TSMainWindow &window = *m_window;
     m_layouts = std::make_unique<TSLayoutController>(window, preview());
     m_export = std::make_unique<TSExportController>(window);
+    connect(m_export.get(), &TSExportController::showSaveInfoDidChange, this, [this] {
+        if (m_preferences)
+            m_preferences->updateCbShow();
+    });
     connect(window.loadPhotoAction, &QAction::triggered, this, &TSMainWindowController::loadPhotoAction);
     connect(window.removePhotoAction, &QAction::triggered, this,
             [this] { m_photoListEditor->removePhotoAction(); });
@@ -153,8 +157,11 @@ void TSMainWindowController::bindSnapping(QAction *action, const char *key)
 
 void TSMainWindowController::preferencesAction()
 {
-    if (!m_preferences)
+    if (!m_preferences) {
         m_preferences = new TSPreferencesWindowController(m_window.get());
+        connect(m_preferences, &TSPreferencesWindowController::showSaveInfoDidChange, m_export.get(),
+                &TSExportController::updateShowSaveInfo);
+    }
     m_preferences->show();
     m_preferences->raise();
 }

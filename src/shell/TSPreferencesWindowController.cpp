@@ -31,6 +31,7 @@ TSPreferencesWindowController::TSPreferencesWindowController(QWidget *parent)
     , m_cbShowRemoveProfileTip(newBox("cbShowRemoveProfileTip", qtTrId("PreferNoRemoveTip"), removeKey, true))
 {
     setObjectName(QStringLiteral("PreferencesWindow"));
+    connect(m_cbShow, &QCheckBox::clicked, this, &TSPreferencesWindowController::showSaveInfoDidChange);
     setWindowTitle(qtTrId("Preferences"));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     buttons->button(QDialogButtonBox::Close)->setText(qtTrId("Close"));
@@ -54,10 +55,16 @@ QCheckBox *TSPreferencesWindowController::newBox(const char *name, const QString
     return box;
 }
 
+void TSPreferencesWindowController::updateCbShow()
+{
+    m_cbShow->setChecked(
+        platform::UserDefaults::standard().boolForKey(TSSaveInfoWindowController::showKey()));
+}
+
 void TSPreferencesWindowController::showEvent(QShowEvent *event)
 {
     const platform::UserDefaults &defaults = platform::UserDefaults::standard();
-    m_cbShow->setChecked(defaults.boolForKey(TSSaveInfoWindowController::showKey()));
+    updateCbShow();
     m_cbShowApplyProfileTip->setChecked(!defaults.boolForKey(applyKey));
     m_cbShowRemoveProfileTip->setChecked(!defaults.boolForKey(removeKey));
     QDialog::showEvent(event);

@@ -12,6 +12,13 @@ class TSPreferencesWindowController : public QDialog {
 public:
     explicit TSPreferencesWindowController(QWidget *parent);
 
+    /// Takes up what the result sheet changed.
+    void updateCbShow();
+
+Q_SIGNALS:
+    /// The user changed whether the result sheet is wanted.
+    void showSaveInfoDidChange();
+
 protected:
     void showEvent(QShowEvent *event) override;
 

@@ -1,5 +1,6 @@
 #include "ui/export/TSExportController.h"
 
+#include "controls/TSCheckBoxAlert.h"
 #include "platform/UserDefaults.h"
 #include "session/TSDataManager.h"
 #include "session/TSNotificationCenter.h"
@@ -8,20 +9,17 @@
 #include "ui/export/TSSaveInfoWindowController.h"
 
 #include <QFileDialog>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QWidget>
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QStandardPaths>
 
 namespace {
 
 constexpr int largestSide = 20000;
 
-QMessageBox *newQuestion(QWidget *window, const QString &message, const QString &informative)
+TSDataManager *session()
 {
-    auto *box = new QMessageBox(QMessageBox::Warning, {}, message, QMessageBox::NoButton, window);
-    box->setInformativeText(informative);
-    box->setWindowModality(Qt::WindowModal);
-    return box;
+    return TSDataManager::dataManager();
 }
 
 } // namespace
@@ -30,41 +28,101 @@ TSExportController::TSExportController(QWidget &window) : m_window(window)
 {
     m_queue.setMaxThreadCount(1);
     m_settings.initSettingsView();
-    m_settings.namePattern().initObserver();
+    m_formatWC = new TSFormatWindowController(m_settings, &m_window);
+    m_pbWC = new TSProgressBarWindowController(&m_window);
+    m_saveInfoWC = new TSSaveInfoWindowController(&m_window);
+    connect(TSNotificationCenter::defaultCenter(), &TSNotificationCenter::TSOpenSavePanel, this,
+            &TSExportController::closeFormatWindow);
+    connect(m_pbWC, &TSProgressBarWindowController::isPausingChanged, this, [this](bool isPausing) {
+        if (m_run)
+            m_run->isPausing = isPausing;
+    });
+    connect(m_pbWC, &TSProgressBarWindowController::isCancelledChanged, this, [this](bool isCancelled) {
+        if (m_run)
+            m_run->isCancelled = isCancelled;
+        if (isCancelled)
+            session()->isExitExport = true;
+    });
+    connect(m_saveInfoWC, &TSSaveInfoWindowController::showChanged, this,
+            &TSExportController::showSaveInfoDidChange);
+    connect(m_saveInfoWC, &TSSaveInfoWindowController::didClose, this, &TSExportController::saveInfoDidClose);
 }
 
 TSExportController::~TSExportController()
 {
-    if (m_run)
+    if (m_run) {
         m_run->isCancelled = true;
+        m_run->isPausing = false;
+    }
+    m_questions.giveUp();
     m_queue.waitForDone();
+    delete m_formatWC;
+    delete m_pbWC;
+    delete m_saveInfoWC;
+    delete m_savePanel;
 }
 
 void TSExportController::exportPhotos()
 {
-    if (isRunning() || TSDataManager::dataManager()->photoCount() == 0)
+    if (isRunning() || session()->photoCount() == 0)
         return;
-    if (!m_formatWC)
-        m_formatWC = new TSFormatWindowController(m_settings, &m_window);
-    if (m_formatWC->exec() != QDialog::Accepted)
-        return;
-    Q_EMIT TSNotificationCenter::defaultCenter()->TSOpenSavePanel();
-    openSavePanel();
+    for (TSSheet *sheet : {static_cast<TSSheet *>(m_formatWC), static_cast<TSSheet *>(m_pbWC),
+                           static_cast<TSSheet *>(m_saveInfoWC)})
+        sheet->setTopInset(topInset());
+    m_formatWC->setPhotoCount(session()->photoCount());
+    m_formatWC->open();
 }
 
-void TSExportController::openSavePanel()
+/// Sheets hang from below the toolbar.
+int TSExportController::topInset() const
 {
-    const QString folder = QFileDialog::getExistingDirectory(&m_window, qtTrId("ChooseFolder"));
-    if (!folder.isEmpty())
+    const auto *window = qobject_cast<QMainWindow *>(&m_window);
+    return window && window->centralWidget() ? window->centralWidget()->y() : 0;
+}
+
+QFileDialog *TSExportController::savePanel()
+{
+    if (m_savePanel)
+        return m_savePanel;
+    m_savePanel = new QFileDialog(&m_window, qtTrId("ChooseFolder"),
+                                  QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
+    m_savePanel->setObjectName(QStringLiteral("savePanel"));
+    m_savePanel->setFileMode(QFileDialog::Directory);
+    m_savePanel->setOption(QFileDialog::ShowDirsOnly);
+    m_savePanel->setSupportedSchemes({QStringLiteral("file")});
+    // Settled: the same word in every language.
+    m_savePanel->setLabelText(QFileDialog::Accept, QStringLiteral("Save"));
+    m_savePanel->setWindowModality(Qt::WindowModal);
+    connect(m_savePanel, &QDialog::finished, this, &TSExportController::savePanelDidEnd);
+    return m_savePanel;
+}
+
+void TSExportController::closeFormatWindow()
+{
+    if (m_formatWC->isSavePhotos())
+        savePanel()->open();
+}
+
+void TSExportController::savePanelDidEnd(int result)
+{
+    m_formatWC->setIsSavePhotos(false);
+    const QString folder = m_savePanel->selectedFiles().value(0);
+    if (result == QDialog::Accepted && !folder.isEmpty())
         start(folder);
 }
 
 void TSExportController::start(const QString &folder)
 {
+    m_folder = folder;
+    m_report = TSExportReport();
     m_run = std::make_unique<TSExportRun>(static_cast<TSExportHost &>(*this));
-    m_progress = new TSProgressBarWindowController(*m_run, &m_window);
-    m_progress->setTip(qtTrId("Converting..."));
-    m_progress->open();
+    m_pbWC->setIndeterminate(true);
+    m_pbWC->setIsCancelled(false);
+    m_pbWC->setCanCancel(true);
+    m_pbWC->setTip(qtTrId("Converting..."));
+    m_pbWC->open();
+    m_launcher.show(0);
+    m_sleep.hold(qtTrId("ExportInhibit"));
     Q_EMIT TSNotificationCenter::defaultCenter()->TSExportImageNames();
     m_queue.start([this, folder] {
         m_run->savePhotos(folder);
@@ -75,95 +133,109 @@ void TSExportController::start(const QString &folder)
 /// The run's own messages have been delivered: they stood in the same queue.
 void TSExportController::end()
 {
-    if (m_progress)
-        m_progress->deleteLater();
+    m_launcher.hide();
+    m_sleep.release();
+    if (m_pbWC->isVisible())
+        m_pbWC->endSheet();
+    const bool wasCancelled = m_run->isCancelled;
     m_run.reset();
+    if (!wasCancelled)
+        reportFailures();
 }
 
-/// Asks on the main thread, while the run waits.
-void TSExportController::ask(const std::function<void()> &question)
+/// A photo that failed is told of, also where no result sheet comes.
+void TSExportController::reportFailures()
 {
-    QMetaObject::invokeMethod(this, question, Qt::BlockingQueuedConnection);
+    const bool neverBegan = m_report.writtenCount() + m_report.missedCount() == 0;
+    if (const QString reason = TSExportReport::folderReason(m_folder);
+        neverBegan && !reason.isEmpty() && !session()->exportNames.isEmpty())
+        m_report.addAll(session()->photoCount(), reason);
+    if (m_report.failedCount() == 0 || m_saveInfoWC->isVisible())
+        return;
+    auto *alert =
+        TSCheckBoxAlert::alertWithMessageText(qtTrId("NotWritten", int(m_report.failedCount())), qtTrId("OK"),
+                                              {}, {}, m_report.sentences(), &m_window);
+    alert->setAttribute(Qt::WA_DeleteOnClose);
+    alert->setTopInset(topInset());
+    alert->open();
+}
+
+void TSExportController::updateShowSaveInfo()
+{
+    m_saveInfoWC->updateCbShow();
+}
+
+void TSExportController::onMainThread(const std::function<void()> &block)
+{
+    QMetaObject::invokeMethod(this, block, Qt::QueuedConnection);
 }
 
 bool TSExportController::continueWithBiggerPhoto()
 {
-    bool isToContinue = false;
-    ask([&] {
-        const auto box = std::unique_ptr<QMessageBox>(newQuestion(
-            &m_window, qtTrId("PhotoBiggerTitle"), qtTrId("PhotoBigger").arg(largestSide).arg(largestSide)));
-        box->setDefaultButton(box->addButton(qtTrId("Cancel"), QMessageBox::RejectRole));
-        const QAbstractButton *goOn = box->addButton(qtTrId("Continue"), QMessageBox::AcceptRole);
-        box->exec();
-        isToContinue = box->clickedButton() == goOn;
-    });
-    return isToContinue;
+    const auto newAlert = [this] {
+        auto *alert = TSCheckBoxAlert::alertWithMessageText(
+            qtTrId("PhotoBiggerTitle"), qtTrId("Cancel"), qtTrId("Continue"), {},
+            qtTrId("PhotoBigger").arg(largestSide).arg(largestSide), m_pbWC);
+        alert->setEscapeAnswer(TSCheckBoxAlert::DefaultReturn);
+        return alert;
+    };
+    return m_questions.ask(newAlert, TSCheckBoxAlert::DefaultReturn) != TSCheckBoxAlert::DefaultReturn;
 }
 
 void TSExportController::sourceIsMissing(const QString &)
 {
-    ask([&] {
-        const auto box = std::unique_ptr<QMessageBox>(
-            newQuestion(&m_window, qtTrId("No Picture Title"), qtTrId("No Picture")));
-        box->setDefaultButton(box->addButton(qtTrId("OK"), QMessageBox::AcceptRole));
-        box->addButton(qtTrId("ExportStop"), QMessageBox::RejectRole);
-        box->exec();
-    });
+    // Settled: both buttons let the run go on.
+    const auto newAlert = [this] {
+        return TSCheckBoxAlert::alertWithMessageText(qtTrId("No Picture Title"), qtTrId("OK"),
+                                                     qtTrId("ExportStop"), {}, qtTrId("No Picture"), m_pbWC);
+    };
+    m_questions.ask(newAlert, TSCheckBoxAlert::DefaultReturn);
 }
 
 int TSExportController::nameIsTaken(const QString &)
 {
-    int choice = TSConflictChoice::Stop;
-    ask([&] {
-        const auto box = std::unique_ptr<QMessageBox>(
-            newQuestion(&m_window, qtTrId("NameRepetitionTitle"), qtTrId("NameRepetition")));
-        QPushButton *rename = box->addButton(qtTrId("Rename"), QMessageBox::AcceptRole);
-        box->addButton(qtTrId("Stop"), QMessageBox::RejectRole);
-        const QPushButton *replace = box->addButton(qtTrId("Replace"), QMessageBox::DestructiveRole);
-        box->setDefaultButton(rename);
-        box->exec();
-        if (box->clickedButton() == rename)
-            choice = TSConflictChoice::Rename;
-        else if (box->clickedButton() == replace)
-            choice = TSConflictChoice::Replace;
-    });
-    return choice;
+    static_assert(int(TSCheckBoxAlert::DefaultReturn) == TSConflictChoice::Rename &&
+                  int(TSCheckBoxAlert::AlternateReturn) == TSConflictChoice::Stop &&
+                  int(TSCheckBoxAlert::OtherReturn) == TSConflictChoice::Replace);
+    const auto newAlert = [this] {
+        auto *alert = TSCheckBoxAlert::alertWithMessageText(qtTrId("NameRepetitionTitle"), qtTrId("Rename"),
+                                                            qtTrId("Stop"), qtTrId("Replace"),
+                                                            qtTrId("NameRepetition"), m_pbWC);
+        alert->setEscapeAnswer(TSCheckBoxAlert::AlternateReturn);
+        return alert;
+    };
+    return m_questions.ask(newAlert, TSConflictChoice::Stop);
 }
 
-void TSExportController::photoIsDone(qint64, const TSExportOutcome &) {}
+void TSExportController::photoIsDone(qint64 index, const TSExportOutcome &outcome)
+{
+    const auto item = session()->itemAtIndex(index);
+    m_report.add(item ? QFileInfo(item->path).fileName() : QString(), outcome);
+    onMainThread([this, index] { m_launcher.show(double(index + 1) / double(session()->photoCount())); });
+}
 
 void TSExportController::setProgressTip(qint64 index)
 {
-    QMetaObject::invokeMethod(
-        this,
-        [this, index] {
-            if (m_progress)
-                m_progress->setTip(QStringLiteral("%1(%2/%3)")
-                                       .arg(qtTrId("Converting..."))
-                                       .arg(index + 1)
-                                       .arg(TSDataManager::dataManager()->photoCount()));
-        },
-        Qt::QueuedConnection);
+    onMainThread([this, index] {
+        m_pbWC->setTip(QStringLiteral("%1(%2/%3)")
+                           .arg(qtTrId("Converting..."))
+                           .arg(index + 1)
+                           .arg(session()->photoCount()));
+    });
 }
 
 void TSExportController::closeProgressSheet()
 {
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (m_progress)
-                m_progress->done(QDialog::Accepted);
-        },
-        Qt::QueuedConnection);
+    onMainThread([this] { m_pbWC->endSheet(); });
 }
 
 void TSExportController::successfulSaveToPath(const QString &path)
 {
-    QMetaObject::invokeMethod(
-        this,
-        [this, path] {
-            if (platform::UserDefaults::standard().boolForKey(TSSaveInfoWindowController::showKey()))
-                (new TSSaveInfoWindowController(path, &m_window))->open();
-        },
-        Qt::QueuedConnection);
+    onMainThread([this, path] {
+        if (!platform::UserDefaults::standard().boolForKey(TSSaveInfoWindowController::showKey()))
+            return;
+        m_saveInfoWC->setPath(path);
+        m_saveInfoWC->setReport(m_report);
+        m_saveInfoWC->open();
+    });
 }

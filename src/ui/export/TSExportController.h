@@ -3,6 +3,10 @@
 #include "export/TSExportHost.h"
 #include "export/TSExportRun.h"
 #include "naming/TSOutputSettings.h"
+#include "ui/export/TSExportQuestions.h"
+#include "ui/export/TSExportReport.h"
+#include "ui/export/TSLauncherProgress.h"
+#include "ui/export/TSSleepInhibitor.h"
 
 #include <functional>
 #include <memory>
@@ -10,12 +14,14 @@
 #include <QPointer>
 #include <QThreadPool>
 
-class QWidget;
+class QFileDialog;
 class TSFormatWindowController;
 class TSProgressBarWindowController;
+class TSSaveInfoWindowController;
 
 /// The road of an export: the format sheet, the choice of a folder, the run on a thread of its own behind the
-/// progress sheet, the three questions, the result. Lives on the main thread.
+/// progress sheet, the three questions, the result. Lives on the main thread. The sheets hang from the
+/// window, which outlives the controller.
 class TSExportController : public QObject, private TSExportHost {
     Q_OBJECT
 
@@ -26,12 +32,23 @@ public:
 
     void exportPhotos();
     bool isRunning() const { return m_run != nullptr; }
+    /// Takes up what the preferences changed.
+    void updateShowSaveInfo();
+
+Q_SIGNALS:
+    /// The user changed, on the result sheet, whether it is wanted.
+    void showSaveInfoDidChange();
+    void saveInfoDidClose();
 
 private:
-    void openSavePanel();
+    QFileDialog *savePanel();
+    void closeFormatWindow();
+    void savePanelDidEnd(int result);
     void start(const QString &folder);
     void end();
-    void ask(const std::function<void()> &question);
+    void reportFailures();
+    int topInset() const;
+    void onMainThread(const std::function<void()> &block);
 
     // On the thread of the run.
     bool continueWithBiggerPhoto() override;
@@ -44,9 +61,15 @@ private:
 
     QWidget &m_window;
     TSOutputSettings m_settings;
+    TSFormatWindowController *m_formatWC;
+    TSProgressBarWindowController *m_pbWC;
+    TSSaveInfoWindowController *m_saveInfoWC;
+    QPointer<QFileDialog> m_savePanel;
+    TSExportQuestions m_questions;
+    TSLauncherProgress m_launcher;
+    TSSleepInhibitor m_sleep;
+    TSExportReport m_report;
     std::unique_ptr<TSExportRun> m_run;
-    /// Made at the first use and kept, with what stands in its fields.
-    QPointer<TSFormatWindowController> m_formatWC;
-    QPointer<TSProgressBarWindowController> m_progress;
+    QString m_folder;
     QThreadPool m_queue;
 };

@@ -1,183 +1,194 @@
 #include "ui/export/TSFormatWindowController.h"
 
+#include "controls/TSNumberField.h"
+#include "controls/TSStepper.h"
 #include "controls/TSTheme.h"
-#include "naming/TSPatternParser.h"
+#include "controls/TSValueTrio.h"
+#include "session/TSNotificationCenter.h"
+#include "ui/export/TSNamePatternView.h"
+#include "ui/export/TSSizeView.h"
 
 #include <QComboBox>
-#include <QDialogButtonBox>
-#include <QFormLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QSignalBlocker>
-#include <QSlider>
-#include <QSpinBox>
-#include <QStackedWidget>
+#include <QVBoxLayout>
 
 namespace {
 
 constexpr int bestQuality = 100;
+constexpr int sheetWidth = 580;
 
-template <typename Widget>
-Widget *named(Widget *widget, const char *name, const QString &accessibleName)
+QComboBox *newPopUp(const char *name, const QString &accessibleName, QWidget *parent)
 {
-    widget->setObjectName(QLatin1String(name));
-    widget->setAccessibleName(accessibleName);
-    return widget;
+    auto *popUp = new QComboBox(parent);
+    popUp->setObjectName(QLatin1String(name));
+    popUp->setAccessibleName(accessibleName);
+    popUp->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    return popUp;
 }
 
-QComboBox *newPopUp(const char *name, const QString &accessibleName, const QStringList &titles, qint64 index)
+QLabel *newLabel(const QString &text, QWidget *parent)
 {
-    QComboBox *popUp = named(new QComboBox, name, accessibleName);
-    popUp->addItems(titles);
-    popUp->setCurrentIndex(int(index));
-    return popUp;
+    auto *label = new QLabel(text, parent);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return label;
+}
+
+QPushButton *newButton(const char *name, const QString &title, QWidget *parent)
+{
+    auto *button = new QPushButton(title, parent);
+    button->setObjectName(QLatin1String(name));
+    button->setAccessibleName(title);
+    button->setAutoDefault(false);
+    return button;
 }
 
 } // namespace
 
 TSFormatWindowController::TSFormatWindowController(TSOutputSettings &settings, QWidget *parent)
-    : QDialog(parent)
+    : TSSheet(parent)
     , m_settings(settings)
-    , m_pubFormat(
-          newPopUp("pubFormat", qtTrId("Format"), TSOutputSettings::formatTitles(), settings.pubFormat()))
-    , m_pubResizeWay(newPopUp("pubResizeWay", qtTrId("Resize"), TSOutputSettings::resizeWayTitles(),
-                              settings.pubResizeWay()))
-    , m_slQuality(named(new QSlider(Qt::Horizontal), "slQuality", qtTrId("Quality")))
-    , m_tfQuality(named(new QSpinBox, "tfQuality", qtTrId("Quality")))
-    , m_vwBaseView(new QStackedWidget)
-    , m_tfInput(named(new QLineEdit, "tfInput", qtTrId("OutputName")))
-    , m_tfExample(new QLabel)
+    , m_tfTitle(new QLabel(this))
+    , m_pubFormat(newPopUp("pubFormat", qtTrId("Format"), this))
+    , m_lbQuality(newLabel(qtTrId("Quality"), this))
+    , m_quality(
+          new TSValueTrio(QStringLiteral("Quality"), qtTrId("Quality"), TSValueTrio::Parts::WithSlider, this))
+    , m_pubResizeWay(newPopUp("pubResizeWay", qtTrId("Resize"), this))
+    , m_vwBaseView(new TSSizeView(settings, this))
+    , m_pattern(new TSNamePatternView(settings.namePattern(), this))
+    , m_rest(new QSpacerItem(0, 0))
 {
     setObjectName(QStringLiteral("FormatWindow"));
-    setWindowModality(Qt::WindowModal);
-    m_vwBaseView->addWidget(new QWidget);
-    m_vwBaseView->addWidget(newSizeRow({{TSSizeField::ByWidth, "tfByWidth"}}));
-    m_vwBaseView->addWidget(newSizeRow({{TSSizeField::ByHeight, "tfByHeight"}}));
-    m_vwBaseView->addWidget(newSizeRow({{TSSizeField::ByPercentage, "tfByPercentage"}}));
-    m_vwBaseView->addWidget(newSizeRow({{TSSizeField::FitSizeWidth, "tfByFitWidthSize"},
-                                        {TSSizeField::FitSizeHeight, "tfByFitHeightSize"}}));
-    auto *form = new QFormLayout(this);
-    form->setContentsMargins(TSTheme::margin, TSTheme::margin, TSTheme::margin, TSTheme::margin);
-    form->addRow(qtTrId("Format"), m_pubFormat);
-    form->addRow(qtTrId("Quality"), newQualityRow());
-    form->addRow(qtTrId("Resize"), m_pubResizeWay);
-    form->addRow(QString(), m_vwBaseView);
-    form->addRow(qtTrId("OutputName"), newNameRow());
-    form->addRow(qtTrId("Example"), m_tfExample);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    m_btOK = buttons->button(QDialogButtonBox::Ok);
-    m_btOK->setText(qtTrId("MenuExport"));
-    form->addRow(buttons);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    m_tfTitle->setFont(TSTheme::titleFont());
+    m_lbQuality->setObjectName(QStringLiteral("lbQuality"));
+    m_quality->setRange(1, bestQuality);
+    m_quality->setValue(settings.quality());
+    m_pubFormat->addItems(TSOutputSettings::formatTitles());
+    m_pubFormat->setCurrentIndex(int(settings.pubFormat()));
+    for (const QString &title : TSOutputSettings::resizeWayTitles())
+        m_pubResizeWay->addItem(qtTrId(title.toUtf8().constData()));
+    m_pubResizeWay->setCurrentIndex(int(settings.pubResizeWay()));
+    makeLayout();
     connect(m_pubFormat, &QComboBox::currentIndexChanged, this, &TSFormatWindowController::formatChanged);
     connect(m_pubResizeWay, &QComboBox::currentIndexChanged, this,
             &TSFormatWindowController::resizeWayChanged);
-    connect(m_tfInput, &QLineEdit::textEdited, this, &TSFormatWindowController::textChanged);
+    connect(m_quality, &TSValueTrio::valueChanged, this,
+            [this](int percent) { m_settings.qualityChanged(percent); });
+    connect(TSNotificationCenter::defaultCenter(), &TSNotificationCenter::TSWindowWillResizeOrZooming, this,
+            &TSFormatWindowController::windowChanged);
     formatChanged(m_pubFormat->currentIndex());
-    resizeWayChanged(m_pubResizeWay->currentIndex());
-    showExample();
-    setMinimumWidth(520);
+    updateBigViewRect();
 }
 
-QWidget *TSFormatWindowController::newQualityRow()
+void TSFormatWindowController::makeLayout()
 {
-    auto *row = new QWidget;
-    auto *layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    m_slQuality->setRange(1, bestQuality);
-    m_tfQuality->setRange(1, bestQuality);
-    m_slQuality->setValue(m_settings.quality());
-    m_tfQuality->setValue(m_settings.quality());
-    layout->addWidget(m_slQuality, 1);
-    layout->addWidget(m_tfQuality);
-    connect(m_slQuality, &QSlider::valueChanged, this, &TSFormatWindowController::qualityChanged);
-    connect(m_tfQuality, &QSpinBox::valueChanged, this, &TSFormatWindowController::qualityChanged);
-    return row;
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(TSTheme::margin);
+    grid->setVerticalSpacing(TSTheme::spacing);
+    grid->setColumnStretch(1, 1);
+    addRow(*grid, newLabel(qtTrId("Format"), this), m_pubFormat);
+    addRow(*grid, m_lbQuality, m_quality);
+    addRow(*grid, newLabel(qtTrId("Resize"), this), m_pubResizeWay);
+    // One column of labels through the sheet.
+    const int labelWidth = qMax(grid->itemAtPosition(0, 0)->sizeHint().width(), m_vwBaseView->labelWidth());
+    grid->setColumnMinimumWidth(0, labelWidth);
+    m_vwBaseView->setLabelWidth(labelWidth);
+    m_pattern->setLabelWidth(labelWidth);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(20, 20, 20, TSTheme::margin);
+    column->setSpacing(TSTheme::spacing);
+    column->addWidget(m_tfTitle);
+    column->addSpacing(TSTheme::spacing);
+    column->addLayout(grid);
+    column->addWidget(newBigView());
+    column->addSpacing(TSTheme::spacing);
+    column->addLayout(newButtons());
+    column->setSizeConstraint(QLayout::SetFixedSize);
+    m_tfTitle->setMinimumWidth(sheetWidth - 40);
 }
 
-QWidget *
-TSFormatWindowController::newSizeRow(std::initializer_list<std::pair<TSSizeField, const char *>> fields)
+void TSFormatWindowController::addRow(QGridLayout &grid, QLabel *label, QWidget *control)
 {
-    auto *row = new QWidget;
-    auto *layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    for (const auto &[size, name] : fields) {
-        QSpinBox *field = named(new QSpinBox, name, qtTrId(name));
-        const TSSizeField which = size;
-        field->setRange(1, TSOutputSettings::top(which));
-        field->setSuffix(which == TSSizeField::ByPercentage ? QStringLiteral(" %") : QStringLiteral(" px"));
-        field->setValue(m_settings.size(which));
-        layout->addWidget(field);
-        connect(field, &QSpinBox::valueChanged, this,
-                [this, which](int value) { m_settings.sizeChanged(which, value); });
-        connect(field, &QSpinBox::editingFinished, this, [this] { m_settings.sizeDidEndEditing(); });
-    }
-    layout->addStretch();
-    return row;
+    const int row = grid.rowCount() - (grid.count() == 0 ? 1 : 0);
+    label->setBuddy(control);
+    grid.addWidget(label, row, 0);
+    grid.addWidget(control, row, 1,
+                   control->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed ? Qt::AlignLeft
+                                                                                  : Qt::Alignment());
 }
 
-QWidget *TSFormatWindowController::newNameRow()
+/// The box that moves with the way of resizing: with fewer size rows its other rows stand higher, and the
+/// sheet keeps its height.
+QWidget *TSFormatWindowController::newBigView()
 {
-    auto *row = new QWidget;
-    auto *column = new QVBoxLayout(row);
+    m_vwBigView = new QWidget(this);
+    m_vwBigView->setObjectName(QStringLiteral("vwBigView"));
+    auto *column = new QVBoxLayout(m_vwBigView);
     column->setContentsMargins(0, 0, 0, 0);
-    // What the pattern begins with.
-    m_tfInput->setText(QStringLiteral("{Name}"));
-    auto *palette = new QHBoxLayout;
-    for (const char *token : {"{Name}", "{Number:001}", "{Created}", "{Modified}"}) {
-        const QString text = QLatin1String(token);
-        auto *button = new QPushButton(text.mid(1).section(u':', 0, 0).remove(u'}'));
-        button->setAutoDefault(false);
-        connect(button, &QPushButton::clicked, this, [this, text] {
-            m_tfInput->insert(text);
-            textChanged(m_tfInput->text());
-        });
-        palette->addWidget(button);
-    }
-    palette->addStretch();
-    column->addWidget(m_tfInput);
-    column->addLayout(palette);
-    return row;
+    column->setSpacing(TSTheme::spacing);
+    column->addWidget(m_vwBaseView);
+    column->addWidget(m_pattern);
+    column->addSpacerItem(m_rest);
+    return m_vwBigView;
+}
+
+QLayout *TSFormatWindowController::newButtons()
+{
+    QPushButton *btCancel = newButton("btCancel", qtTrId("Cancel"), this);
+    QPushButton *btOK = newButton("btOK", qtTrId("MenuExport"), this);
+    btOK->setDefault(true);
+    connect(btCancel, &QPushButton::clicked, this, &TSFormatWindowController::clickCancel);
+    connect(btOK, &QPushButton::clicked, this, &TSFormatWindowController::clickOK);
+    auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(TSTheme::spacing);
+    buttons->addStretch();
+    buttons->addWidget(btCancel);
+    buttons->addWidget(btOK);
+    return buttons;
+}
+
+void TSFormatWindowController::setPhotoCount(qint64 count)
+{
+    m_tfTitle->setText(qtTrId("ExportTitle", int(count)));
+    setAccessibleName(m_tfTitle->text());
+}
+
+void TSFormatWindowController::clickOK()
+{
+    m_isSavePhotos = true;
+    done(Accepted);
+    Q_EMIT TSNotificationCenter::defaultCenter()->TSOpenSavePanel();
+}
+
+void TSFormatWindowController::clickCancel()
+{
+    m_isSavePhotos = false;
+    done(Rejected);
+}
+
+void TSFormatWindowController::updateBigViewRect()
+{
+    // In this order: showing a row lays the sheet out at once, and its height is to stay.
+    m_rest->changeSize(0, m_vwBaseView->missingHeight());
+    m_vwBigView->layout()->invalidate();
+    m_vwBaseView->showWay();
 }
 
 void TSFormatWindowController::formatChanged(int index)
 {
     m_settings.formatChanged(index);
-    m_slQuality->setEnabled(m_settings.isQualityEnabled());
-    m_tfQuality->setEnabled(m_settings.isQualityEnabled());
+    for (QWidget *part : {static_cast<QWidget *>(m_lbQuality), static_cast<QWidget *>(m_quality)})
+        part->setEnabled(m_settings.isQualityEnabled());
 }
 
-void TSFormatWindowController::qualityChanged(int percent)
+void TSFormatWindowController::resizeWayChanged()
 {
-    const QSignalBlocker slider(m_slQuality), field(m_tfQuality);
-    m_slQuality->setValue(percent);
-    m_tfQuality->setValue(percent);
-    m_settings.qualityChanged(percent);
+    m_settings.resizeWayChanged(m_pubResizeWay->currentIndex());
+    updateBigViewRect();
 }
 
-void TSFormatWindowController::resizeWayChanged(int index)
+void TSFormatWindowController::windowChanged()
 {
-    m_settings.resizeWayChanged(index);
-    m_vwBaseView->setCurrentIndex(index);
-}
-
-void TSFormatWindowController::textChanged(const QString &pattern)
-{
-    const TSPatternParser::Result parsed = TSPatternParser::namePattern(pattern);
-    m_btOK->setEnabled(parsed.error.isEmpty() && !parsed.values.empty());
-    if (!parsed.error.isEmpty()) {
-        m_tfExample->setText(parsed.error);
-        return;
-    }
-    m_settings.namePattern().setObjectValue(parsed.values);
-    m_settings.namePattern().textChanged();
-    showExample();
-}
-
-void TSFormatWindowController::showExample()
-{
-    m_settings.namePattern().updateExampleText();
-    m_tfExample->setText(m_settings.namePattern().tfExample());
+    resizeWayChanged();
+    formatChanged(m_pubFormat->currentIndex());
 }

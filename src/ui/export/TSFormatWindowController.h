@@ -1,41 +1,56 @@
 #pragma once
 
+#include "controls/TSSheet.h"
 #include "naming/TSOutputSettings.h"
 
-#include <QDialog>
-
 class QComboBox;
+class QGridLayout;
 class QLabel;
-class QLineEdit;
-class QSlider;
-class QSpinBox;
-class QStackedWidget;
+class QPushButton;
+class QSpacerItem;
+class TSNamePatternView;
+class TSSizeView;
+class TSValueTrio;
 
 /// The sheet with the output settings. Every control acts at once; OK only decides whether the export goes
-/// on.
-class TSFormatWindowController : public QDialog {
+/// on. One instance, which keeps what stands in its fields.
+class TSFormatWindowController : public TSSheet {
     Q_OBJECT
 
 public:
     TSFormatWindowController(TSOutputSettings &settings, QWidget *parent);
 
+    /// The sheet ended with OK, and the choice of a folder has not ended yet.
+    bool isSavePhotos() const { return m_isSavePhotos; }
+    void setIsSavePhotos(bool isSavePhotos) { m_isSavePhotos = isSavePhotos; }
+    void setPhotoCount(qint64 count);
+
+    void clickOK();
+    void clickCancel();
+    /// Escape cancels.
+    void reject() override { clickCancel(); }
+    void accept() override { clickOK(); }
+
 private:
-    QWidget *newQualityRow();
-    QWidget *newSizeRow(std::initializer_list<std::pair<TSSizeField, const char *>> fields);
-    QWidget *newNameRow();
+    void makeLayout();
+    void addRow(QGridLayout &grid, QLabel *label, QWidget *control);
+    QWidget *newBigView();
+    QLayout *newButtons();
+    void updateBigViewRect();
     void formatChanged(int index);
-    void qualityChanged(int percent);
-    void resizeWayChanged(int index);
-    void textChanged(const QString &pattern);
-    void showExample();
+    void resizeWayChanged();
+    void windowChanged();
 
     TSOutputSettings &m_settings;
+    QLabel *m_tfTitle;
     QComboBox *m_pubFormat;
+    QLabel *m_lbQuality;
+    TSValueTrio *m_quality;
     QComboBox *m_pubResizeWay;
-    QSlider *m_slQuality;
-    QSpinBox *m_tfQuality;
-    QStackedWidget *m_vwBaseView;
-    QLineEdit *m_tfInput;
-    QLabel *m_tfExample;
-    QPushButton *m_btOK = nullptr;
+    TSSizeView *m_vwBaseView;
+    TSNamePatternView *m_pattern;
+    QWidget *m_vwBigView = nullptr;
+    /// Below the name: what the size rows leave of their room.
+    QSpacerItem *m_rest;
+    bool m_isSavePhotos = false;
 };

@@ -1,38 +1,45 @@
 #include "ui/export/TSProgressBarWindowController.h"
 
+#include "controls/TSCheckBoxAlert.h"
 #include "controls/TSTheme.h"
-#include "export/TSExportRun.h"
-#include "session/TSDataManager.h"
 
-#include <QHBoxLayout>
+#include <cmath>
 #include <QLabel>
-#include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QVBoxLayout>
 
-TSProgressBarWindowController::TSProgressBarWindowController(TSExportRun &run, QWidget *parent)
-    : QDialog(parent)
-    , m_run(run)
+namespace {
+
+constexpr int sheetWidth = 460;
+
+} // namespace
+
+TSProgressBarWindowController::TSProgressBarWindowController(QWidget *parent)
+    : TSSheet(parent)
     , m_tfTip(new QLabel(this))
     , m_pb(new QProgressBar(this))
     , m_btCancel(new QPushButton(qtTrId("Cancel"), this))
 {
     setObjectName(QStringLiteral("ProgressBarWindow"));
-    setWindowModality(Qt::WindowModal);
+    setAccessibleName(qtTrId("Converting..."));
     m_tfTip->setObjectName(QStringLiteral("tfTip"));
     m_pb->setObjectName(QStringLiteral("pb"));
     m_pb->setAccessibleName(qtTrId("Converting..."));
-    m_pb->setRange(0, 0);
+    m_pb->setTextVisible(false);
     m_btCancel->setObjectName(QStringLiteral("btCancel"));
     m_btCancel->setAccessibleName(qtTrId("Cancel"));
+    m_btCancel->setAutoDefault(false);
     auto *row = new QHBoxLayout;
+    row->setSpacing(TSTheme::margin);
     row->addWidget(m_pb, 1);
     row->addWidget(m_btCancel);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(TSTheme::margin, TSTheme::margin, TSTheme::margin, TSTheme::margin);
+    column->setContentsMargins(20, 20, 20, TSTheme::margin);
+    column->setSpacing(TSTheme::spacing);
     column->addWidget(m_tfTip);
     column->addLayout(row);
-    setMinimumWidth(440);
+    setFixedWidth(sheetWidth);
     connect(m_btCancel, &QPushButton::clicked, this, &TSProgressBarWindowController::cancelClick);
 }
 
@@ -42,18 +49,74 @@ void TSProgressBarWindowController::setTip(const QString &tip)
         m_tfTip->setText(tip);
 }
 
+void TSProgressBarWindowController::setIndeterminate(bool isIndeterminate)
+{
+    m_isIndeterminate = isIndeterminate;
+    setAnimated(isIndeterminate);
+}
+
+/// A bar without a range moves by itself.
+void TSProgressBarWindowController::setAnimated(bool isAnimated)
+{
+    m_pb->setRange(0, isAnimated ? 0 : 100);
+    m_pb->setValue(0);
+}
+
+void TSProgressBarWindowController::setCanCancel(bool canCancel)
+{
+    m_btCancel->setVisible(canCancel);
+}
+
+void TSProgressBarWindowController::setProgressValue(double value)
+{
+    if (std::abs(value - m_pb->value()) < 1)
+        return;
+    m_pb->setValue(int(value));
+    m_pb->repaint();
+}
+
+void TSProgressBarWindowController::setIsPausing(bool isPausing)
+{
+    m_isPausing = isPausing;
+    Q_EMIT isPausingChanged(isPausing);
+}
+
+void TSProgressBarWindowController::setIsCancelled(bool isCancelled)
+{
+    m_isCancelled = isCancelled;
+    m_btCancel->setEnabled(!isCancelled);
+    Q_EMIT isCancelledChanged(isCancelled);
+}
+
 void TSProgressBarWindowController::cancelClick()
 {
-    if (m_run.isPausing)
+    if (m_question || m_isCancelled || !m_btCancel->isVisibleTo(this))
         return;
-    m_run.isPausing = true;
-    QMessageBox box(QMessageBox::Warning, {}, qtTrId("ConfirmCancel"), QMessageBox::Ok | QMessageBox::Cancel,
-                    this);
-    box.setInformativeText(qtTrId("WarningCancel"));
-    if (box.exec() == QMessageBox::Ok) {
-        m_run.isCancelled = true;
-        done(QDialog::Rejected);
-        TSDataManager::dataManager()->isExitExport = true;
-    }
-    m_run.isPausing = false;
+    setIsPausing(true);
+    if (m_isIndeterminate)
+        setAnimated(false);
+    m_question = TSCheckBoxAlert::alertWithMessageText(qtTrId("ConfirmCancel"), qtTrId("OK"),
+                                                       qtTrId("Cancel"), {}, qtTrId("WarningCancel"), this);
+    m_question->setAttribute(Qt::WA_DeleteOnClose);
+    connect(m_question, &QDialog::finished, this, &TSProgressBarWindowController::confirmCancel);
+    m_question->open();
+}
+
+void TSProgressBarWindowController::confirmCancel(int answer)
+{
+    m_question.clear();
+    // The sheet stays until the run has left its photo: it works on what the sheet keeps the user from.
+    if (answer == TSCheckBoxAlert::DefaultReturn)
+        setIsCancelled(true);
+    if (m_isIndeterminate)
+        setAnimated(true);
+    setIsPausing(false);
+}
+
+void TSProgressBarWindowController::endSheet()
+{
+    delete m_question;
+    if (m_isPausing)
+        setIsPausing(false);
+    done(Accepted);
 }

@@ -1,54 +1,140 @@
 #include "ui/export/TSSaveInfoWindowController.h"
 
+#include "controls/TSCheckBoxAlert.h"
 #include "controls/TSTheme.h"
 #include "platform/UserDefaults.h"
+#include "ui/export/TSExportReport.h"
+#include "ui/export/TSFileViewer.h"
 
 #include <QCheckBox>
-#include <QDesktopServices>
-#include <QDialogButtonBox>
+#include <QDir>
 #include <QFileInfo>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPushButton>
-#include <QUrl>
 #include <QVBoxLayout>
 
-TSSaveInfoWindowController::TSSaveInfoWindowController(const QString &path, QWidget *parent)
-    : QDialog(parent), m_path(path), m_cbShow(new QCheckBox(qtTrId("DontShowAgain"), this))
+namespace {
+
+constexpr int textWidth = 420;
+
+QLabel *newText(const char *name, QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setObjectName(QLatin1String(name));
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label->setFixedWidth(textWidth);
+    label->setWordWrap(true);
+    return label;
+}
+
+QPushButton *newButton(const char *name, const QString &title, QWidget *parent)
+{
+    auto *button = new QPushButton(title, parent);
+    button->setObjectName(QLatin1String(name));
+    button->setAccessibleName(title);
+    button->setAutoDefault(false);
+    return button;
+}
+
+} // namespace
+
+TSSaveInfoWindowController::TSSaveInfoWindowController(QWidget *parent)
+    : TSSheet(parent)
+    , m_tfTitle(newText("tfTitle", this))
+    , m_tfPath(newText("tfPath", this))
+    , m_tfReport(newText("tfReport", this))
+    , m_cbShow(new QCheckBox(qtTrId("DontShowAgain"), this))
+    , m_btOK(newButton("btOK", qtTrId("ShowFile"), this))
 {
     setObjectName(QStringLiteral("SaveInfoWindow"));
-    setWindowModality(Qt::WindowModal);
-    setAttribute(Qt::WA_DeleteOnClose);
     m_cbShow->setObjectName(QStringLiteral("cbShow"));
-    auto *title = new QLabel(qtTrId("ExportDone"), this);
-    title->setFont(TSTheme::titleFont());
-    auto *where = new QLabel(QFileInfo(path).absolutePath(), this);
-    where->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    auto *buttons = new QDialogButtonBox(this);
-    QPushButton *show = buttons->addButton(qtTrId("ShowFile"), QDialogButtonBox::ActionRole);
-    show->setObjectName(QStringLiteral("btOK"));
-    buttons->addButton(qtTrId("Close"), QDialogButtonBox::RejectRole)
-        ->setObjectName(QStringLiteral("btCancel"));
+    m_cbShow->setAccessibleName(m_cbShow->text());
+    m_tfTitle->setFont(TSTheme::titleFont());
+    m_btOK->setDefault(true);
+    auto *btCancel = newButton("btCancel", qtTrId("Close"), this);
+    auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(TSTheme::spacing);
+    buttons->addWidget(m_cbShow);
+    buttons->addStretch();
+    buttons->addWidget(btCancel);
+    buttons->addWidget(m_btOK);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(TSTheme::margin, TSTheme::margin, TSTheme::margin, TSTheme::margin);
-    column->addWidget(title);
-    column->addWidget(where);
-    column->addSpacing(TSTheme::spacing);
-    column->addWidget(m_cbShow);
-    column->addWidget(buttons);
-    connect(show, &QPushButton::clicked, this, &TSSaveInfoWindowController::OKClick);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
-    connect(m_cbShow, &QCheckBox::toggled, this, &TSSaveInfoWindowController::dontShowClick);
+    column->setContentsMargins(20, 20, 20, TSTheme::margin);
+    column->setSpacing(TSTheme::spacing);
+    column->setSizeConstraint(QLayout::SetFixedSize);
+    for (QLabel *label : {m_tfTitle, m_tfPath, m_tfReport})
+        column->addWidget(label);
+    column->addSpacing(TSTheme::margin);
+    column->addLayout(buttons);
+    connect(m_btOK, &QPushButton::clicked, this, &TSSaveInfoWindowController::OKClick);
+    connect(btCancel, &QPushButton::clicked, this, &TSSaveInfoWindowController::cancelClick);
+    connect(m_cbShow, &QCheckBox::clicked, this, &TSSaveInfoWindowController::dontShowClick);
+}
+
+void TSSaveInfoWindowController::setPath(const QString &path)
+{
+    m_path = path;
+    const QString folder = QDir::toNativeSeparators(QFileInfo(path).absolutePath());
+    m_tfPath->setText(m_tfPath->fontMetrics().elidedText(folder, Qt::ElideMiddle, textWidth));
+    m_tfPath->setToolTip(folder);
+    updateCbShow();
+    m_btOK->setEnabled(true);
+    m_btOK->setFocus();
+}
+
+void TSSaveInfoWindowController::setReport(const TSExportReport &report)
+{
+    const qint64 missed = report.missedCount();
+    const QString count = QString::number(report.writtenCount());
+    const QString all = QString::number(report.writtenCount() + missed);
+    m_tfTitle->setText(missed > 0 ? qtTrId("ExportDonePartly").arg(count, all) : qtTrId("ExportDone"));
+    m_tfReport->setText(report.sentences());
+    m_tfReport->setVisible(missed > 0);
+    setAccessibleName(m_tfTitle->text());
+    setAccessibleDescription(m_tfReport->text());
+}
+
+void TSSaveInfoWindowController::updateCbShow()
+{
+    m_cbShow->setChecked(!platform::UserDefaults::standard().boolForKey(showKey()));
 }
 
 void TSSaveInfoWindowController::OKClick()
 {
-    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(m_path).absolutePath())))
-        QMessageBox::warning(this, {}, qtTrId("FailedShowFile") + m_path);
-    close();
+    // A file manager may have to be started; a second click would show the file twice.
+    m_btOK->setEnabled(false);
+    TSFileViewer::selectFile(m_path, this, [this](bool wasShown) { fileWasShown(wasShown); });
+}
+
+void TSSaveInfoWindowController::fileWasShown(bool wasShown)
+{
+    if (wasShown)
+        return stopModal();
+    auto *alert = TSCheckBoxAlert::alertWithMessageText(qtTrId("FailedShowFile") + m_path, qtTrId("OK"), {},
+                                                        {}, {}, this);
+    alert->setAttribute(Qt::WA_DeleteOnClose);
+    connect(alert, &QDialog::finished, this, &TSSaveInfoWindowController::stopModal);
+    alert->open();
+}
+
+void TSSaveInfoWindowController::cancelClick()
+{
+    stopModal();
+}
+
+void TSSaveInfoWindowController::stopModal()
+{
+    if (!isVisible())
+        return;
+    done(Accepted);
+    Q_EMIT didClose();
 }
 
 void TSSaveInfoWindowController::dontShowClick(bool isOn)
 {
-    platform::UserDefaults::standard().setBool(showKey(), !isOn);
+    platform::UserDefaults &defaults = platform::UserDefaults::standard();
+    defaults.setBool(showKey(), !isOn);
+    defaults.synchronize();
+    Q_EMIT showChanged();
 }

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "controls/TSFieldPart.h"
+#include "naming/TSTokenValue.h"
+
+#include <QWidget>
+
+class QLabel;
+class TSNamePattern;
+class TSTokenField;
+
+/// The pattern that names the files: its field, the palette of tokens below it, and the example. What is
+/// changed here acts on the pattern at once.
+class TSNamePatternView : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit TSNamePatternView(TSNamePattern &pattern, QWidget *parent = nullptr);
+
+    TSTokenField *tfInput() const { return m_tfInput; }
+    void setLabelWidth(int width);
+
+private:
+    QWidget *newPalette();
+    QWidget *newPill(const char *name, const std::shared_ptr<TSToken> &token);
+    bool eventFilter(QObject *object, QEvent *event) override;
+    void controlTextDidChange();
+    void insertToken(const TSFieldToken &token);
+    void showExample();
+
+    TSNamePattern &m_pattern;
+    QList<QLabel *> m_labels;
+    TSTokenField *m_tfInput;
+    QLabel *m_tfExample;
+    /// The release that follows a double click belongs to it.
+    bool m_isDoubleClick = false;
+};
