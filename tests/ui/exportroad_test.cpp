@@ -1,0 +1,223 @@
+#include "support/ExportSession.h"
+#include "ui/export/TSExportController.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMainWindow>
+#include <QSemaphore>
+#include <QTest>
+#include <QTranslator>
+
+namespace {
+
+/// Holds the run while it draws a photo, until it is let go.
+class Trap : public TSOverlay {
+public:
+    void drawIncontext(platform::PaintLayer &) override
+    {
+        reached.release();
+        letGo.acquire();
+    }
+    QSemaphore reached, letGo;
+};
+
+class ExportRoadTest : public ExportTest {
+protected:
+    ExportRoadTest()
+    {
+        EXPECT_TRUE(english.load(":/translations/tessaro_en.qm"));
+        QApplication::installTranslator(&english);
+        for (const char *name : {"a.png", "b.png", "c.png"})
+            addPhoto(QLatin1String(name), {40, 30});
+        QDir().mkpath(out);
+        window.resize(900, 600);
+        window.show();
+        controller = std::make_unique<TSExportController>(window);
+    }
+
+    static QWidget *shown(const char *sheet)
+    {
+        for (QWidget *widget : QApplication::topLevelWidgets())
+            if (widget->isVisible() && widget->objectName() == QLatin1String(sheet))
+                return widget;
+        return nullptr;
+    }
+    /// The alert that asks has no name, and its buttons have; the one on top counts.
+    static QAbstractButton *button(const char *name)
+    {
+        for (QWidget *widget : QApplication::allWidgets())
+            if (widget->isVisible() && widget->objectName() == QLatin1String(name))
+                return qobject_cast<QAbstractButton *>(widget);
+        return nullptr;
+    }
+    static void click(const char *name)
+    {
+        ASSERT_TRUE(QTest::qWaitFor([name] { return button(name) != nullptr; })) << name;
+        QTest::mouseClick(button(name), Qt::LeftButton);
+    }
+    static std::string text(const char *name)
+    {
+        for (QWidget *widget : QApplication::allWidgets())
+            if (widget->isVisible() && widget->objectName() == QLatin1String(name))
+                return qobject_cast<QLabel *>(widget)->text().toStdString();
+        return "not shown";
+    }
+    /// Presses OK in the format sheet and takes the folder in the panel.
+    void start()
+    {
+        controller->exportPhotos();
+        click("btOK");
+        auto *panel = window.findChild<QFileDialog *>();
+        ASSERT_TRUE(panel);
+        ASSERT_TRUE(panel->isVisible());
+        panel->setDirectory(out);
+        panel->selectFile(out);
+        QMetaObject::invokeMethod(panel, "accept");
+        ASSERT_TRUE(controller->isRunning());
+    }
+    bool waitForEnd()
+    {
+        return QTest::qWaitFor([this] { return !controller->isRunning(); }, 20000);
+    }
+    void closeResult()
+    {
+        if (shown("SaveInfoWindow"))
+            click("btCancel");
+    }
+    std::string files() const
+    {
+        return QDir(out)
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name)
+            .join(u' ')
+            .toStdString();
+    }
+    std::shared_ptr<Trap> addTrap()
+    {
+        auto trap = std::make_shared<Trap>();
+        trap->setFrame(QRectF(0, 0, 5, 5));
+        addOverlay(trap);
+        return trap;
+    }
+
+    const QString out = session.path("out");
+    QTranslator english;
+    QMainWindow window;
+    std::unique_ptr<TSExportController> controller;
+};
+
+} // namespace
+
+TEST_F(ExportRoadTest, TwoRunsInARowAskOnceAboutTakenNames)
+{
+    const std::tuple<const char *, const char *, const char *> rows[] = {
+        {"defaultButton", "a.jpg a_001.jpg b.jpg b_001.jpg c.jpg c_001.jpg", "The photos are exported"},
+        {"otherButton", "a.jpg b.jpg c.jpg", "The photos are exported"},
+        {"alternateButton", "a.jpg b.jpg c.jpg", "not shown"},
+    };
+    for (const auto &[answer, expected, title] : rows) {
+        QDir(out).removeRecursively();
+        QDir().mkpath(out);
+        start();
+        ASSERT_TRUE(waitForEnd());
+        EXPECT_EQ(text("tfTitle"), "The photos are exported");
+        closeResult();
+        start();
+        click(answer);
+        ASSERT_TRUE(waitForEnd());
+        EXPECT_EQ(files(), expected) << answer;
+        EXPECT_EQ(text("tfTitle"), title) << answer;
+        EXPECT_FALSE(shown("ProgressBarWindow"));
+        closeResult();
+    }
+}
+
+TEST_F(ExportRoadTest, ACancelIsAskedAboutAndHoldsTheRun)
+{
+    for (const bool isConfirmed : {false, true}) {
+        QDir(out).removeRecursively();
+        QDir().mkpath(out);
+        const auto trap = addTrap();
+        start();
+        trap->reached.acquire();
+        QTest::keyClick(shown("ProgressBarWindow"), Qt::Key_Escape);
+        trap->letGo.release(100);
+        QTest::qWait(100);
+        EXPECT_EQ(files(), "") << "the run waits for the answer";
+        click(isConfirmed ? "defaultButton" : "alternateButton");
+        ASSERT_TRUE(waitForEnd());
+        EXPECT_EQ(files(), isConfirmed ? "" : "a.jpg b.jpg c.jpg");
+        EXPECT_EQ(shown("SaveInfoWindow") == nullptr, isConfirmed);
+        EXPECT_FALSE(shown("ProgressBarWindow"));
+        closeResult();
+        session.overlays.removeOverlay(trap);
+    }
+}
+
+TEST_F(ExportRoadTest, AQuitWaitsForNoAnswerAndLeavesNoHalves)
+{
+    session.write("out/b.jpg", "taken");
+    start();
+    ASSERT_TRUE(QTest::qWaitFor([] { return button("otherButton") != nullptr; }));
+    controller.reset();
+    EXPECT_EQ(files(), "a.jpg b.jpg") << "in the middle of the question about b";
+    controller = std::make_unique<TSExportController>(window);
+    const auto trap = addTrap();
+    start();
+    trap->reached.acquire();
+    QTest::keyClick(shown("ProgressBarWindow"), Qt::Key_Escape);
+    trap->letGo.release(100);
+    controller.reset();
+    EXPECT_EQ(files(), "a.jpg b.jpg") << "while the cancel question holds the run";
+}
+
+TEST_F(ExportRoadTest, ALostFolderIsTold)
+{
+    const auto trap = addTrap();
+    start();
+    trap->letGo.release();
+    trap->reached.acquire(2);
+    QDir(out).removeRecursively();
+    trap->letGo.release(100);
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(text("tfTitle"), "1 of 3 photos are exported");
+    EXPECT_EQ(text("tfReport"), "2 photos: The folder " + out.toStdString() + " is no longer there.");
+    closeResult();
+    session.overlays.removeOverlay(trap);
+
+    QDir().mkpath(out);
+    QFile::remove(session.path("b.png"));
+    session.defaults->setBool("kShowSaveInfo", false);
+    const auto second = addTrap();
+    start();
+    second->reached.acquire();
+    QDir(out).removeRecursively();
+    second->letGo.release(100);
+    click("defaultButton");
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(text("messageText"), "2 photos were not exported") << "b's file was told of before";
+    EXPECT_EQ(text("informativeText"),
+              "2 photos: The folder " + out.toStdString() +
+                  " is no longer there.\nb.png: The file of the photo is no longer there.");
+}
+
+TEST_F(ExportRoadTest, TheResultSheetCanBeDoneWithout)
+{
+    start();
+    ASSERT_TRUE(waitForEnd());
+    click("cbShow");
+    EXPECT_FALSE(session.defaults->boolForKey("kShowSaveInfo"));
+    QFile::remove(out + "/a.jpg");
+    click("btOK");
+    EXPECT_EQ(text("messageText"), "This file could not be shown: " + out.toStdString() + "/a.jpg");
+    click("defaultButton");
+    EXPECT_FALSE(shown("SaveInfoWindow"));
+    QFile::remove(out + "/b.jpg");
+    QFile::remove(out + "/c.jpg");
+    start();
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(files(), "a.jpg b.jpg c.jpg");
+    EXPECT_FALSE(shown("SaveInfoWindow"));
+}
