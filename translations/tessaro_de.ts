@@ -57,7 +57,7 @@
     </message>
     <message id="ConfirmCancel">
         <source>Stop the export?</source>
-        <translation>Export abbrechen?</translation>
+        <translation>Export vorzeitig beenden?</translation>
     </message>
     <message id="Continue">
         <source>Continue</source>

@@ -203,6 +203,16 @@ TEST_F(ExportRoadTest, ALostFolderIsTold)
                   " is no longer there.\nb.png: The file of the photo is no longer there.");
 }
 
+TEST_F(ExportRoadTest, LargeOutputsAreAskedAboutAndCancelIsTheDefault)
+{
+    session.photos.photoAtIndex(1)->photoSize = QSizeF(20000, 20001);
+    start();
+    click("defaultButton");
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(files(), "");
+    EXPECT_FALSE(shown("ProgressBarWindow") || shown("SaveInfoWindow"));
+}
+
 TEST_F(ExportRoadTest, TheResultSheetCanBeDoneWithout)
 {
     start();

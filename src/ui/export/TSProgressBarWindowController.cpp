@@ -11,7 +11,9 @@
 
 namespace {
 
-constexpr int sheetWidth = 460;
+/// No wider than the questions that come over it.
+constexpr int sheetWidth = 420;
+constexpr int barHeight = 8;
 
 } // namespace
 
@@ -27,6 +29,7 @@ TSProgressBarWindowController::TSProgressBarWindowController(QWidget *parent)
     m_pb->setObjectName(QStringLiteral("pb"));
     m_pb->setAccessibleName(qtTrId("Converting..."));
     m_pb->setTextVisible(false);
+    m_pb->setFixedHeight(barHeight);
     m_btCancel->setObjectName(QStringLiteral("btCancel"));
     m_btCancel->setAccessibleName(qtTrId("Cancel"));
     m_btCancel->setAutoDefault(false);
