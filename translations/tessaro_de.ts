@@ -11,6 +11,13 @@
         <source>Adjust</source>
         <translation>Anpassen</translation>
     </message>
+    <message id="AndMorePhotos" numerus="yes">
+        <source>… and %n more photos</source>
+        <translation>
+            <numerusform>… und %n weiteres Foto</numerusform>
+            <numerusform>… und %n weitere Fotos</numerusform>
+        </translation>
+    </message>
     <message id="Batch">
         <source>Batch</source>
         <translation>Alle</translation>
@@ -110,6 +117,13 @@
     <message id="ExportStop">
         <source>Stop</source>
         <translation>Anhalten</translation>
+    </message>
+    <message id="ExportTitle" numerus="yes">
+        <source>Export %n photos</source>
+        <translation>
+            <numerusform>%n Foto exportieren</numerusform>
+            <numerusform>%n Fotos exportieren</numerusform>
+        </translation>
     </message>
     <message id="FailedShowFile">
         <source>This file could not be shown: </source>
@@ -275,6 +289,13 @@
         <source>Without a name nothing is exported</source>
         <translation>Ohne Namen wird nichts exportiert</translation>
     </message>
+    <message id="NotWritten" numerus="yes">
+        <source>%n photos were not exported</source>
+        <translation>
+            <numerusform>%n Foto wurde nicht exportiert</numerusform>
+            <numerusform>%n Fotos wurden nicht exportiert</numerusform>
+        </translation>
+    </message>
     <message id="Number">
         <source>Number</source>
         <translation>Nummer</translation>
@@ -298,6 +319,13 @@
     <message id="PhotoBiggerTitle">
         <source>Very large photos</source>
         <translation>Sehr große Fotos</translation>
+    </message>
+    <message id="PhotoCount" numerus="yes">
+        <source>%n photos</source>
+        <translation>
+            <numerusform>%n Foto</numerusform>
+            <numerusform>%n Fotos</numerusform>
+        </translation>
     </message>
     <message id="Photos">
         <source>Photos</source>

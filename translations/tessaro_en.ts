@@ -11,6 +11,13 @@
         <source>Adjust</source>
         <translation>Adjust</translation>
     </message>
+    <message id="AndMorePhotos" numerus="yes">
+        <source>… and %n more photos</source>
+        <translation>
+            <numerusform>… and %n more photo</numerusform>
+            <numerusform>… and %n more photos</numerusform>
+        </translation>
+    </message>
     <message id="Batch">
         <source>Batch</source>
         <translation>Batch</translation>
@@ -110,6 +117,13 @@
     <message id="ExportStop">
         <source>Stop</source>
         <translation>Stop</translation>
+    </message>
+    <message id="ExportTitle" numerus="yes">
+        <source>Export %n photos</source>
+        <translation>
+            <numerusform>Export %n photo</numerusform>
+            <numerusform>Export %n photos</numerusform>
+        </translation>
     </message>
     <message id="FailedShowFile">
         <source>This file could not be shown: </source>
@@ -275,6 +289,13 @@
         <source>Without a name nothing is exported</source>
         <translation>Without a name nothing is exported</translation>
     </message>
+    <message id="NotWritten" numerus="yes">
+        <source>%n photos were not exported</source>
+        <translation>
+            <numerusform>%n photo was not exported</numerusform>
+            <numerusform>%n photos were not exported</numerusform>
+        </translation>
+    </message>
     <message id="Number">
         <source>Number</source>
         <translation>Number</translation>
@@ -298,6 +319,13 @@
     <message id="PhotoBiggerTitle">
         <source>Very large photos</source>
         <translation>Very large photos</translation>
+    </message>
+    <message id="PhotoCount" numerus="yes">
+        <source>%n photos</source>
+        <translation>
+            <numerusform>%n photo</numerusform>
+            <numerusform>%n photos</numerusform>
+        </translation>
     </message>
     <message id="Photos">
         <source>Photos</source>

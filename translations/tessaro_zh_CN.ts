@@ -11,6 +11,12 @@
         <source>Adjust</source>
         <translation>单张</translation>
     </message>
+    <message id="AndMorePhotos" numerus="yes">
+        <source>… and %n more photos</source>
+        <translation>
+            <numerusform>……以及另外 %n 张照片</numerusform>
+        </translation>
+    </message>
     <message id="Batch">
         <source>Batch</source>
         <translation>批量</translation>
@@ -110,6 +116,12 @@
     <message id="ExportStop">
         <source>Stop</source>
         <translation>停止</translation>
+    </message>
+    <message id="ExportTitle" numerus="yes">
+        <source>Export %n photos</source>
+        <translation>
+            <numerusform>导出 %n 张照片</numerusform>
+        </translation>
     </message>
     <message id="FailedShowFile">
         <source>This file could not be shown: </source>
@@ -275,6 +287,12 @@
         <source>Without a name nothing is exported</source>
         <translation>没有名称则不会导出任何照片</translation>
     </message>
+    <message id="NotWritten" numerus="yes">
+        <source>%n photos were not exported</source>
+        <translation>
+            <numerusform>%n 张照片未导出</numerusform>
+        </translation>
+    </message>
     <message id="Number">
         <source>Number</source>
         <translation>编号</translation>
@@ -298,6 +316,12 @@
     <message id="PhotoBiggerTitle">
         <source>Very large photos</source>
         <translation>照片非常大</translation>
+    </message>
+    <message id="PhotoCount" numerus="yes">
+        <source>%n photos</source>
+        <translation>
+            <numerusform>%n 张照片</numerusform>
+        </translation>
     </message>
     <message id="Photos">
         <source>Photos</source>
