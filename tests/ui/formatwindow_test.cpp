@@ -129,6 +129,8 @@ TEST_F(FormatWindowTest, TokensAndTheirVariantsMakeTheNames)
     chooseVariant(2);
     EXPECT_EQ(names(), "ALPHA-001 BETA-002");
     EXPECT_EQ(example(), "NAME-001");
+    child<QWidget>("pubResizeWay")->setFocus();
+    child<QWidget>("tfInput")->setFocus(Qt::TabFocusReason);
     QTest::keyClick(child<QWidget>("tfNumber"), Qt::Key_Space);
     EXPECT_EQ(names(), "ALPHA-001001 BETA-002002") << "both come from one token of the palette";
     const qsizetype before = nameChanges.count();

@@ -167,8 +167,12 @@ void TSNamePatternView::controlTextDidChange()
     showExample();
 }
 
+/// Behind what is selected: the way to the palette by Tab selects the whole pattern.
 void TSNamePatternView::insertToken(const TSFieldToken &token)
 {
+    QTextCursor cursor = m_tfInput->textCursor();
+    cursor.setPosition(cursor.selectionEnd());
+    m_tfInput->setTextCursor(cursor);
     m_tfInput->insertParts({token});
 }
 
