@@ -137,25 +137,8 @@ QWidget *TSNamePatternView::newPill(const char *name, const std::shared_ptr<TSTo
     pill->setObjectName(QLatin1String(name));
     pill->setToolTip(qtTrId("PaletteHint"));
     pill->setAccessibleDescription(qtTrId("PaletteHint"));
-    pill->installEventFilter(this);
     connect(pill, &TSTokenPill::activated, this, &TSNamePatternView::insertToken);
     return pill;
-}
-
-/// A click puts the token into the field as well. A double click is one click.
-bool TSNamePatternView::eventFilter(QObject *object, QEvent *event)
-{
-    if (event->type() == QEvent::MouseButtonDblClick)
-        return m_isDoubleClick = true;
-    if (event->type() == QEvent::MouseButtonRelease && !std::exchange(m_isDoubleClick, false)) {
-        const auto *pill = static_cast<const TSTokenPill *>(object);
-        const auto *release = static_cast<const QMouseEvent *>(event);
-        if (release->button() == Qt::LeftButton && pill->rect().contains(release->position().toPoint())) {
-            insertToken(pill->token());
-            m_tfInput->setFocus();
-        }
-    }
-    return false;
 }
 
 void TSNamePatternView::controlTextDidChange()

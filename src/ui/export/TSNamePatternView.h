@@ -23,7 +23,6 @@ public:
 private:
     QWidget *newPalette();
     QWidget *newPill(const char *name, const std::shared_ptr<TSToken> &token);
-    bool eventFilter(QObject *object, QEvent *event) override;
     void controlTextDidChange();
     void insertToken(const TSFieldToken &token);
     void showExample();
@@ -32,6 +31,4 @@ private:
     QList<QLabel *> m_labels;
     TSTokenField *m_tfInput;
     QLabel *m_tfExample;
-    /// The release that follows a double click belongs to it.
-    bool m_isDoubleClick = false;
 };
