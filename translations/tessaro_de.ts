@@ -475,5 +475,9 @@
         <source>Width</source>
         <translation>Breite</translation>
     </message>
+    <message id="AllFiles">
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
+    </message>
 </context>
 </TS>

@@ -475,5 +475,9 @@
         <source>Width</source>
         <translation>Width</translation>
     </message>
+    <message id="AllFiles">
+        <source>All files</source>
+        <translation>All files</translation>
+    </message>
 </context>
 </TS>

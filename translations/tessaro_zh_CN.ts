@@ -471,5 +471,9 @@
         <source>Width</source>
         <translation>宽度</translation>
     </message>
+    <message id="AllFiles">
+        <source>All files</source>
+        <translation>所有文件</translation>
+    </message>
 </context>
 </TS>

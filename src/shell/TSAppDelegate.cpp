@@ -5,12 +5,22 @@
 #include <QApplication>
 #include <QDBusConnection>
 #include <QDBusInterface>
+#include <QLibraryInfo>
 #include <QTranslator>
 
 namespace {
 
 const QString service = QStringLiteral("org.tessaro.Tessaro");
 const QString object = QStringLiteral("/org/tessaro/Tessaro");
+
+void install(const QLocale &locale, const QString &table, const QString &folder)
+{
+    auto *translator = new QTranslator(qApp);
+    if (translator->load(locale, table, QStringLiteral("_"), folder))
+        QApplication::installTranslator(translator);
+    else
+        delete translator;
+}
 
 } // namespace
 
@@ -30,14 +40,12 @@ bool TSAppDelegate::becomeTheOnlyOne()
 
 void TSAppDelegate::installTranslations()
 {
-    for (const QLocale &locale : {QLocale(QLocale::English), QLocale()}) {
-        auto *translator = new QTranslator(qApp);
-        if (translator->load(locale, QStringLiteral("tessaro"), QStringLiteral("_"),
-                             QStringLiteral(":/translations")))
-            QApplication::installTranslator(translator);
-        else
-            delete translator;
-    }
+    const QString toolkitsOwn = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    const QString ours = QStringLiteral(":/translations");
+    // The last one installed is asked first.
+    install(QLocale(), QStringLiteral("qtbase"), toolkitsOwn);
+    install(QLocale(QLocale::English), QStringLiteral("tessaro"), ours);
+    install(QLocale(), QStringLiteral("tessaro"), ours);
 }
 
 void TSAppDelegate::applicationDidFinishLaunching()

@@ -24,6 +24,8 @@ constexpr QSize firstSize(1280, 820);
 /// The order of the zooms in the menu is that of the list.
 constexpr size_t separatorItem = 9;
 constexpr size_t fitItem = 10;
+/// Characters that the word for "Fit" may have in a language.
+constexpr int longestZoom = 9;
 constexpr const char *zooms[] = {"25%", "50%", "75%", "100%", "125%", "150%", "200%", "300%", "400%"};
 
 QLabel *newTip(const char *name, QWidget *parent)
@@ -150,6 +152,8 @@ void TSMainWindow::makeToolbar()
     pubZooming = new QComboBox(bar);
     pubZooming->setObjectName(QStringLiteral("pubZooming"));
     pubZooming->setAccessibleName(qtTrId("MenuZoom"));
+    pubZooming->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    pubZooming->setMinimumContentsLength(longestZoom);
     bar->addWidget(pubZooming);
     bar->addAction(exportPhotos);
     tintIcons();

@@ -29,6 +29,19 @@ constexpr qsizetype longestList = 8;
 constexpr int titleWidth = 420;
 constexpr const char *auxiliaryLineKey = "WatermarkAuxiliaryLine";
 
+/// What the decoders read, by the usual extensions in either case; everything else is a choice away, since
+/// files are taken by their contents.
+QString photoFilter()
+{
+    QStringList patterns;
+    for (const char *extension : {"jpg", "jpeg", "png", "tif", "tiff", "heic", "heif", "avif", "webp", "gif",
+                                  "bmp", "jp2", "svg", "pdf", "ai", "eps"}) {
+        const QString pattern = QStringLiteral("*.") + QLatin1String(extension);
+        patterns << pattern << pattern.toUpper();
+    }
+    return QStringLiteral("%1 (%2);;%3 (*)").arg(qtTrId("Photos"), patterns.join(u' '), qtTrId("AllFiles"));
+}
+
 TSDataManager *session()
 {
     return TSDataManager::dataManager();
@@ -220,14 +233,16 @@ void TSMainWindowController::addPhotos(const QList<QUrl> &urls)
 
 void TSMainWindowController::loadPhotoAction()
 {
-    const QList<QUrl> urls = QFileDialog::getOpenFileUrls(m_window.get(), qtTrId("ChoosePhoto"));
+    const QList<QUrl> urls =
+        QFileDialog::getOpenFileUrls(m_window.get(), qtTrId("ChoosePhoto"), {}, photoFilter());
     if (!urls.isEmpty() && m_photoIntake)
         m_photoIntake->loadPhotos(urls);
 }
 
 void TSMainWindowController::addStickerFromFinder()
 {
-    const QString path = QFileDialog::getOpenFileName(m_window.get(), qtTrId("ChooseImage"));
+    const QString path =
+        QFileDialog::getOpenFileName(m_window.get(), qtTrId("ChooseImage"), {}, photoFilter());
     if (!path.isEmpty())
         preview().creation().addStickerWithPath(path, true);
 }
