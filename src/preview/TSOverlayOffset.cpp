@@ -34,6 +34,18 @@ void updateMembers(TSOverlay &overlay)
         group->updateOverlayFrameOfGroup();
 }
 
+/// The frame with one coordinate set so that it lies at a distance from an anchor of the canvas.
+QRectF placed(QRectF frame, unsigned anchor, bool isAlongX, double distance)
+{
+    const QPointF from = TSAnchorOfRect(anchor, TSDataManager::dataManager()->canvasFrame);
+    const QPointF corner = TSOriginForAnchor(anchor, from + QPointF(distance, distance), frame.size());
+    if (isAlongX)
+        frame.moveLeft(corner.x());
+    else
+        frame.moveTop(corner.y());
+    return frame;
+}
+
 } // namespace
 
 QPointF TSOverlayOffset::offset() const
@@ -99,22 +111,6 @@ void TSOverlayOffset::changeOffset(Axis axis, double distance)
     m_view.redrawOverlaysView();
     m_view.redrawTrackerView();
 }
-
-namespace {
-
-/// The frame with one coordinate set so that it lies at a distance from an anchor of the canvas.
-QRectF placed(QRectF frame, unsigned anchor, bool isAlongX, double distance)
-{
-    const QPointF from = TSAnchorOfRect(anchor, TSDataManager::dataManager()->canvasFrame);
-    const QPointF corner = TSOriginForAnchor(anchor, from + QPointF(distance, distance), frame.size());
-    if (isAlongX)
-        frame.moveLeft(corner.x());
-    else
-        frame.moveTop(corner.y());
-    return frame;
-}
-
-} // namespace
 
 void TSOverlayOffset::moveOne(TSOverlay &overlay, Axis axis, double distance)
 {

@@ -1,13 +1,13 @@
 #include "shell/TSLayoutController.h"
 
+#include "controls/TSCheckBoxAlert.h"
 #include "preview/TSPreview.h"
 #include "profiles/TSProfileLibrary.h"
 #include "profiles/TSProfileSaver.h"
 
-#include <QCheckBox>
+#include <memory>
 #include <QFileDialog>
 #include <QInputDialog>
-#include <QMessageBox>
 
 void TSLayoutController::openProfileAction()
 {
@@ -16,7 +16,7 @@ void TSLayoutController::openProfileAction()
     if (package.isEmpty())
         return;
     if (TSProfileLibrary::find(package).isEmpty() || !TSProfileApplier(this).applyProfile(package))
-        QMessageBox::warning(&m_window, {}, qtTrId("NoLayout"));
+        tell(qtTrId("NoLayout"));
 }
 
 void TSLayoutController::openSaveProfile()
@@ -28,18 +28,25 @@ void TSLayoutController::openSaveProfile()
         return;
     const QString failure = TSProfileSaver::saveProfile(name.trimmed());
     if (!failure.isEmpty())
-        QMessageBox::warning(&m_window, {}, failure);
+        tell(failure);
+}
+
+void TSLayoutController::tell(const QString &message)
+{
+    const std::unique_ptr<TSCheckBoxAlert> alert(
+        TSCheckBoxAlert::alertWithMessageText(message, qtTrId("OK"), {}, {}, {}, &m_window));
+    alert->exec();
 }
 
 TSProfileApplierDelegate::Answer TSLayoutController::askToCoverWatermarks()
 {
-    QMessageBox box(QMessageBox::Question, {}, qtTrId("Do you want to cover watermarks title"),
-                    QMessageBox::Ok | QMessageBox::Cancel, &m_window);
-    box.setInformativeText(qtTrId("Do you want to cover watermarks"));
-    auto *again = new QCheckBox(qtTrId("DonotShowApplyProfileTipAgain"));
-    box.setCheckBox(again);
-    const bool isToCover = box.exec() == QMessageBox::Ok;
-    return {isToCover, again->isChecked()};
+    const std::unique_ptr<TSCheckBoxAlert> alert(TSCheckBoxAlert::alertWithMessageText(
+        qtTrId("Do you want to cover watermarks title"), qtTrId("OK"), qtTrId("Cancel"), {},
+        qtTrId("Do you want to cover watermarks"), &m_window));
+    alert->setShowsCheckbox(true);
+    alert->setCheckboxText(qtTrId("DonotShowApplyProfileTipAgain"));
+    const bool isToCover = alert->exec() == TSCheckBoxAlert::DefaultReturn;
+    return {isToCover, alert->checkboxState() == 1};
 }
 
 void TSLayoutController::clearSelection()

@@ -21,6 +21,7 @@ Q_SIGNALS:
     void profileDidApply();
 
 private:
+    void tell(const QString &message);
     Answer askToCoverWatermarks() override;
     void clearSelection() override;
     void profileWasApplied() override;

@@ -1,5 +1,6 @@
 #include "shell/TSMainWindowController.h"
 
+#include "controls/TSCheckBoxAlert.h"
 #include "controls/TSSegmentedControl.h"
 #include "overlays/TSOverlayManager.h"
 #include "platform/UserDefaults.h"
@@ -17,7 +18,6 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QListView>
-#include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTimer>
@@ -331,19 +331,16 @@ void TSMainWindowController::validateActions()
 
 bool TSMainWindowController::confirm(const QString &message, const QString &informative)
 {
-    QMessageBox box(QMessageBox::Question, {}, message, QMessageBox::Ok | QMessageBox::Cancel,
-                    m_window.get());
-    box.setInformativeText(informative);
-    box.setWindowModality(Qt::WindowModal);
-    return box.exec() == QMessageBox::Ok;
+    const std::unique_ptr<TSCheckBoxAlert> alert(TSCheckBoxAlert::alertWithMessageText(
+        message, qtTrId("OK"), qtTrId("Cancel"), {}, informative, m_window.get()));
+    return alert->exec() == TSCheckBoxAlert::DefaultReturn;
 }
 
 void TSMainWindowController::showAlert(const QString &message, const QString &informative)
 {
-    QMessageBox box(QMessageBox::Information, {}, message, QMessageBox::Ok, m_window.get());
-    box.setInformativeText(informative);
-    box.setWindowModality(Qt::WindowModal);
-    box.exec();
+    const std::unique_ptr<TSCheckBoxAlert> alert(
+        TSCheckBoxAlert::alertWithMessageText(message, qtTrId("OK"), {}, {}, informative, m_window.get()));
+    alert->exec();
 }
 
 void TSMainWindowController::releaseShownPhoto()

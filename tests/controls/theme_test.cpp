@@ -63,16 +63,6 @@ TEST(Theme, CanBeReadAndDoesNotTintPhotos)
     }
 }
 
-TEST(Theme, TellsTheDesktopsSchemeByItsPalette)
-{
-    const QPalette before = QApplication::palette();
-    for (const auto scheme : {TSTheme::Scheme::Dark, TSTheme::Scheme::Light}) {
-        QApplication::setPalette(TSTheme::palette(scheme));
-        EXPECT_EQ(TSTheme::systemScheme(), scheme);
-    }
-    QApplication::setPalette(before);
-}
-
 TEST(Theme, ShowsTheFocusOnAnAccentedButton)
 {
     TSStyle::apply(TSTheme::Scheme::Light);
@@ -105,15 +95,4 @@ TEST(Icons, AreAllDrawnAllDifferentAndInsideTheirSquare)
     const int sharedPictures = 1;
     EXPECT_EQ(int(seen.size()), int(TSIcon::Name::Warning) + 1 - sharedPictures);
     EXPECT_EQ(seen.count(QByteArray(40 * 40 * 4, '\0')), 0u);
-}
-
-TEST(Icons, TakeTheirColourFromThePaletteAndTheirSharpnessFromTheScale)
-{
-    const QPalette palette = TSTheme::palette(TSTheme::Scheme::Dark);
-    const QIcon icon = TSIcon::icon(TSIcon::Name::Add, palette);
-    const QImage twice = icon.pixmap(QSize(20, 20), 2).toImage();
-    EXPECT_EQ(twice.size(), QSize(40, 40));
-    EXPECT_EQ(twice.pixelColor(20, 20), palette.color(QPalette::ButtonText));
-    const QColor disabled = icon.pixmap(QSize(20, 20), 1, QIcon::Disabled).toImage().pixelColor(10, 10);
-    EXPECT_LT(disabled.lightness(), palette.color(QPalette::ButtonText).lightness());
 }

@@ -111,20 +111,6 @@ TEST_F(TrioTest, StepsOnWhileHeld)
     EXPECT_EQ(trio.value(), held);
 }
 
-TEST_F(TrioTest, NamesItsParts)
-{
-    for (const char *name : {"slOpacity", "tfOpacity", "stOpacity"}) {
-        const auto *part = trio.findChild<QWidget *>(QLatin1String(name));
-        ASSERT_TRUE(part) << name;
-        EXPECT_EQ(part->accessibleName(), QStringLiteral("Opacity"));
-    }
-    trio.slider()->setFocus();
-    QTest::keyClick(trio.slider(), Qt::Key_Tab);
-    EXPECT_TRUE(trio.field()->hasFocus());
-    QTest::keyClick(trio.field(), Qt::Key_Tab);
-    EXPECT_TRUE(trio.stepper()->hasFocus());
-}
-
 TEST(Segments, OneIsOnAndTheArrowsMoveIt)
 {
     TSSegmentedControl control(TSSegmentedControl::Selection::One);

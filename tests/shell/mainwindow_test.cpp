@@ -1,3 +1,4 @@
+#include "controls/TSCheckBoxAlert.h"
 #include "overlays/TSOverlayManager.h"
 #include "session/TSDataManager.h"
 #include "session/TSPhotoManager.h"
@@ -13,7 +14,6 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QTest>
 #include <QTimer>
 
@@ -227,9 +227,9 @@ TEST_F(MainWindowTest, RefusedFilesAreNamed)
     QString told;
     QTimer answer;
     QObject::connect(&answer, &QTimer::timeout, [&told] {
-        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-            told = box->informativeText();
-            box->accept();
+        if (auto *alert = qobject_cast<TSCheckBoxAlert *>(QApplication::activeModalWidget())) {
+            told = alert->findChild<QLabel *>("informativeText")->text();
+            alert->done(TSCheckBoxAlert::DefaultReturn);
         }
     });
     answer.start(20);
