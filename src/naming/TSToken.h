@@ -11,9 +11,12 @@ class KeyedUnarchiver;
 
 /// A placeholder with a menu of variants. The choice changes what the token expands to, never the `name` that
 /// it reads as in its field. Tokens live on the main thread; reading them elsewhere is safe while nobody
-/// changes them.
+/// changes them. A token of no derived class has no text of its own.
 class TSToken : public platform::Archivable {
 public:
+    TSToken() = default;
+    explicit TSToken(platform::KeyedUnarchiver &coder);
+
     /// 0 in the pattern of file names, 1 among the words of a text.
     int usingLocal() const { return m_usingLocal; }
     void setUsingLocal(int usingLocal) { m_usingLocal = usingLocal; }
@@ -24,16 +27,16 @@ public:
     const QString &showName() const { return m_showName; }
     void setShowName(const QString &showName) { m_showName = showName; }
     /// The titles of the variants, as they were when the token was made.
-    virtual QStringList tokenMenu() const = 0;
+    virtual QStringList tokenMenu() const { return {}; }
 
     /// Chooses a variant and tells the session. A position outside the menu changes nothing.
-    virtual void editCellAction(int itemIndex) = 0;
+    virtual void editCellAction(int) {}
 
+    QStringList classChain() const override { return {QStringLiteral("TSToken")}; }
     void encodeWithCoder(platform::KeyedArchiver &coder) const override;
 
 protected:
     TSToken(const QString &name, const QString &showName);
-    explicit TSToken(platform::KeyedUnarchiver &coder);
 
 private:
     int m_usingLocal = 0;

