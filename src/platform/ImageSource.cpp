@@ -1,5 +1,6 @@
 #include "platform/ImageSource.h"
 
+#include "platform/JpegStrips.h"
 #include "platform/VipsMemory.h"
 
 #include <array>
@@ -89,6 +90,10 @@ VipsImagePtr loadJpeg(const QString &path, int shrink)
 VipsImagePtr openJpeg(const QString &path, QSize wanted)
 {
     VipsImagePtr full = loadJpeg(path, 1);
+    if (full && wanted == QSize(full->Xsize, full->Ysize)) {
+        VipsImagePtr strips = openJpegStrips(path, full.get());
+        return strips ? std::move(strips) : std::move(full);
+    }
     const int shrink = full ? jpegShrinkFor({full->Xsize, full->Ysize}, wanted) : 1;
     return shrink == 1 ? std::move(full) : loadJpeg(path, shrink);
 }

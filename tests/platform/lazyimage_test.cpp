@@ -201,6 +201,26 @@ TEST_F(LazyImageTest, FilesThatBreakOffFail)
     EXPECT_TRUE(LazyImage::open(path(QString()), {}).isEmpty());
 }
 
+/// Asked for in its own size, a JPEG comes by a shorter way than a reduced one or one of no size.
+TEST_F(LazyImageTest, BothWaysToAJpegShowTheSame)
+{
+    QImage image(133, 71, QImage::Format_RGB32);
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            image.setPixelColor(x, y, QColor::fromHsv((7 * x + 3 * y) % 360, 200, 255 - y));
+    for (const QSize &sampling : {QSize(1, 1), QSize(2, 1), QSize(2, 2)}) {
+        const QByteArray bytes = LazyImage::fromImage(image).encodeJpeg({90, sampling});
+        const QString file = write("a.jpg", bytes);
+        EXPECT_EQ(LazyImage::open(file, image.size()).toImage(), LazyImage::open(file, {}).toImage());
+        // Within its data, every bit set: a code that no table holds.
+        QByteArray spoilt = bytes;
+        spoilt.replace(bytes.size() * 3 / 4, 24, QByteArray("\xFF\0", 2).repeated(12));
+        LazyImage::open(write("b.jpg", spoilt), image.size()).toImage();
+        const QString told = platform::takeVipsError();
+        EXPECT_TRUE(told.contains(u"Corrupt JPEG data")) << told.toStdString() << bytes.size();
+    }
+}
+
 TEST_F(LazyImageTest, ThumbnailsHoldMeansOfWhatStreamedBy)
 {
     QImage picture(64, 32, QImage::Format_RGBA8888);
