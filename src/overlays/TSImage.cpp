@@ -37,6 +37,17 @@ QRectF onWholePixels(const QRectF &frame)
             std::max(1.0, std::round(frame.bottom()) - top)};
 }
 
+/// A picture that reaches far beyond the photo is made smaller than it is seen, and stretched: it could be
+/// larger than there is memory.
+QSize pixelsFor(const QSizeF &seen)
+{
+    constexpr double longestSide = 1e5;
+    constexpr double largestArea = 5e7;
+    const QSizeF sides = seen.boundedTo({longestSide, longestSide});
+    const double share = std::sqrt(std::min(1.0, largestArea / (sides.width() * sides.height())));
+    return (sides * share).toSize().expandedTo({1, 1});
+}
+
 } // namespace
 
 TSImage::TSImage(platform::KeyedUnarchiver &coder) : TSOverlay(coder)
@@ -51,7 +62,8 @@ TSImage::TSImage(platform::KeyedUnarchiver &coder) : TSOverlay(coder)
 void TSImage::drawIncontext(platform::PaintLayer &context)
 {
     const auto picture = TSCacheManager::cacheManager()->imageWithPath(m_imagePath);
-    if (!picture || frame().isEmpty())
+    // A frame that has lost its shape is no number wide.
+    if (!picture || !(frame().width() > 0 && frame().height() > 0))
         return;
     const QRectF place = angle() == 0 ? onWholePixels(frame()) : frame();
     const QPointF center = frame().center();
@@ -60,7 +72,7 @@ void TSImage::drawIncontext(platform::PaintLayer &context)
     context.rotate(angle());
     context.translate(-center.x(), -center.y());
     context.setAlpha(opacity());
-    context.drawImage(place, picture->imageOfSize(place.size().toSize().expandedTo({1, 1})));
+    context.drawImage(place, picture->imageOfSize(pixelsFor(place.size())));
     context.restore();
 }
 

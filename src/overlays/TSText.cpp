@@ -40,6 +40,16 @@ double fractionOf(double value)
     return value - std::floor(value);
 }
 
+/// Archives hold any number. Beyond these nothing of a shadow is seen, and it would take time and memory
+/// without end.
+constexpr double widestBlur = 500;
+
+double withinReach(double distance)
+{
+    constexpr double farthest = 1e6;
+    return std::clamp(distance, -farthest, farthest);
+}
+
 } // namespace
 
 TSText::TSText(const QString &string) : m_textStorage(string, firstLook())
@@ -180,7 +190,8 @@ void TSText::setShadowOn(platform::PaintLayer &context) const
     const float reference = float(width / naturalSize().width()) * pointSize;
     const QSizeF offset = shadow()->offsetWithReference(reference);
     // The shadow's own y runs upward.
-    context.setShadow({offset.width(), -offset.height()}, double(shadow()->blur()), shadow()->color());
+    context.setShadow({withinReach(offset.width()), withinReach(-offset.height())},
+                      std::min(double(shadow()->blur()), widestBlur), shadow()->color());
 }
 
 void TSText::drawIncontext(platform::PaintLayer &context)

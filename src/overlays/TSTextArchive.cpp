@@ -28,8 +28,12 @@ std::vector<TSTokenValue> decodedValues(const platform::ArchiveValue &archived)
     for (const platform::ArchiveValue &value : archived.toArray()) {
         if (auto token = value.toObject<TSToken>())
             values.emplace_back(std::move(token));
-        else
+        else if (value.isString())
             values.emplace_back(value.toString());
+        else
+            // Whatever else archives hold takes its place all the same, where the words before it are
+            // repeated.
+            values.emplace_back(std::make_shared<TSToken>());
     }
     return values;
 }

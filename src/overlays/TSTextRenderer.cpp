@@ -86,13 +86,17 @@ void TSTextRenderer::drawGlow(QPainter &painter)
     QImage mask = newBitmap(single).convertToFormat(QImage::Format_Alpha8);
     QPainter inside(&mask);
     inside.translate(m_picture.phase);
-    drawStroke(inside, double(float(m_picture.look.glowWidth / 3.0)), platform::Color::black());
+    const auto width = double(float(m_picture.look.glowWidth / 3.0));
+    drawStroke(inside, width, platform::Color::black());
     inside.end();
+    // An outline of no width is no outline: the glyphs are filled, and glow in the colour that the text has.
+    const auto fill = m_picture.text.attributesAt(0).foregroundColor.value_or(platform::Color::black());
+    const platform::Color color = width == 0 ? fill : m_picture.look.glowColor;
     const QImage blurred = platform::boxBlurred(mask, int(m_picture.look.glowBlur));
     painter.save();
     painter.scale(m_picture.factor, m_picture.factor);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(0, 0, platform::tinted(blurred, m_picture.look.glowColor.withAlpha(1).toQColor()));
+    painter.drawImage(0, 0, platform::tinted(blurred, color.withAlpha(1).toQColor()));
     painter.restore();
 }
 

@@ -61,7 +61,7 @@ std::vector<double> components(const ArchiveValue &value)
     return result;
 }
 
-/// Grey or red, green and blue, each with or without an alpha; other colour models are none of ours.
+/// Grey or red, green and blue, each with or without an alpha.
 std::optional<Color> colorOfComponents(const std::vector<double> &c)
 {
     switch (c.size()) {
@@ -78,10 +78,22 @@ std::optional<Color> colorOfComponents(const std::vector<double> &c)
     }
 }
 
+/// Cyan, magenta, yellow and black, as a printer's colours are shown without a profile.
+std::optional<Color> colorOfInks(const std::vector<double> &c)
+{
+    if (c.size() != 4 && c.size() != 5)
+        return std::nullopt;
+    const double light = 1 - c[3];
+    return Color{(1 - c[0]) * light, (1 - c[1]) * light, (1 - c[2]) * light, c.size() == 5 ? c[4] : 1};
+}
+
 /// Custom colour spaces carry their plain equivalent beside their own components, and named colours a plain
 /// colour.
 ArchiveValue decodeColor(KeyedUnarchiver &coder)
 {
+    // Before the components, which do not tell inks from light.
+    if (const auto color = colorOfInks(components(coder.decodeObject(u"NSCMYK"))))
+        return *color;
     for (const QStringView key : {u"NSRGB", u"NSWhite", u"NSComponents"}) {
         if (const auto color = colorOfComponents(components(coder.decodeObject(key))))
             return *color;

@@ -45,6 +45,7 @@ public:
     bool isNothing() const;
     /// True for booleans too.
     bool isNumber() const;
+    bool isString() const { return std::holds_alternative<QString>(m_value); }
 
     /// The value as the type asked for. Numbers and booleans stand in for one another; for anything else
     /// these answer zero, an empty value or nothing. A number that is not finite reads as 0.

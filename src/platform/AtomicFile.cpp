@@ -12,16 +12,16 @@ QString reasonForFailure(const QString &path, qsizetype length, const QString &f
 {
     const QFileInfo folder(QFileInfo(path).path());
     if (!folder.exists())
-        return QStringLiteral("The folder %1 does not exist.").arg(folder.filePath());
+        return qtTrId("The folder %1 does not exist.").arg(folder.filePath());
     if (!folder.isDir())
-        return QStringLiteral("%1 is not a folder.").arg(folder.filePath());
+        return qtTrId("%1 is not a folder.").arg(folder.filePath());
     if (QFileInfo(path).isDir())
-        return QStringLiteral("A folder stands under the name %1.").arg(path);
+        return qtTrId("A folder stands under the name %1.").arg(path);
     if (!folder.isWritable())
-        return QStringLiteral("The folder %1 may not be written to.").arg(folder.filePath());
+        return qtTrId("The folder %1 may not be written to.").arg(folder.filePath());
     if (const QStorageInfo disk(folder.filePath()); disk.isValid() && disk.bytesAvailable() < length)
-        return QStringLiteral("The disk is full.");
-    return QStringLiteral("The file could not be written: %1.").arg(fallback);
+        return qtTrId("The disk is full.");
+    return qtTrId("The file could not be written: %1.").arg(fallback);
 }
 
 } // namespace

@@ -12,6 +12,9 @@ icu::Locale userLocale()
 {
     for (const char *variable : {"LC_ALL", "LC_TIME", "LANG"}) {
         const QByteArray name = qgetenv(variable);
+        // The other name of the bare locale is a language of no country to ICU.
+        if (name == "POSIX")
+            return icu::Locale::createCanonical("C");
         if (!name.isEmpty())
             return icu::Locale::createCanonical(name.constData());
     }

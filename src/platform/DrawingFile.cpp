@@ -55,20 +55,20 @@ QString reasonOf(RestrictedProcess::Outcome outcome, const QByteArray &messages,
 {
     using Outcome = RestrictedProcess::Outcome;
     if (outcome == Outcome::TookTooLong)
-        return QStringLiteral("Drawing the file takes longer than 10 seconds.");
+        return qtTrId("Drawing the file takes longer than 10 seconds.");
     if (outcome == Outcome::IsMissing)
-        return QStringLiteral("The program that draws such files is not installed.");
+        return qtTrId("The program that draws such files is not installed.");
     if (messages.contains("Incorrect password"))
-        return QStringLiteral("The document is protected by a password.");
+        return qtTrId("The document is protected by a password.");
     bool isTooLarge = outcome == Outcome::TookTooMuchSpace;
     for (const char *const word : {"ut of memory", "bad_alloc", "VMerror", "limitcheck"})
         isTooLarge = isTooLarge || messages.contains(word);
     if (isTooLarge)
-        return QStringLiteral("Drawing the file takes more memory than it may have.");
-    return QString::fromUtf8(usual);
+        return qtTrId("Drawing the file takes more memory than it may have.");
+    return qtTrId(usual);
 }
 
-constexpr const char *damaged = "The file is damaged, or is not what its name says.";
+constexpr const char *damaged = QT_TRID_NOOP("The file is damaged, or is not what its name says.");
 
 /// How far a picture may leave its box where an interpreter rounds up. It answers for the size of its picture
 /// as little as for anything else.
@@ -110,7 +110,7 @@ bool isPdf(const QString &path)
 QImage rasterizePdf(const QString &path, const QSizeF &box, QString *reason)
 {
     if (!isPdf(path))
-        return refused(reason, QStringLiteral("The file is not a PDF document."));
+        return refused(reason, qtTrId("The file is not a PDF document."));
     RestrictedProcess process;
     const QString target = process.path(QStringLiteral("page"));
     const auto pixels = [](double side) { return QString::number(int(side)); };
@@ -126,7 +126,7 @@ QImage rasterizeEps(const QString &path, const QSizeF &box, QString *reason)
 {
     const std::optional<QRectF> bounds = boundingBox(path);
     if (!bounds)
-        return refused(reason, QStringLiteral("The file is not a PostScript drawing with a size."));
+        return refused(reason, qtTrId("The file is not a PostScript drawing with a size."));
     constexpr double pointsPerInch = 72;
     const double resolution = pointsPerInch * scaleToTouch(bounds->size(), box);
     RestrictedProcess process;
@@ -150,9 +150,10 @@ QImage rasterizeSvg(const QString &path, const QSizeF &box, QString *reason)
         {QFileInfo(path).absoluteFilePath(), QString::number(std::min(box.width(), box.height())), target});
     const bool isDone = outcome == RestrictedProcess::Outcome::Done;
     const QImage image = isDone ? readRawPicture(target, withMargin(box)) : QImage();
-    return image.isNull() ? refused(reason, reasonOf(outcome, process.messages(),
-                                                     "The drawing has no size, or cannot be read."))
-                          : image;
+    return image.isNull()
+               ? refused(reason, reasonOf(outcome, process.messages(),
+                                          QT_TRID_NOOP("The drawing has no size, or cannot be read.")))
+               : image;
 }
 
 } // namespace platform

@@ -13,14 +13,21 @@ struct Replacement {
     QStringView installed;
 };
 
-/// Families that documents name everywhere, with free ones of the same widths.
-constexpr std::array<Replacement, 7> replacements = {{{u"Helvetica", u"Liberation Sans"},
-                                                      {u"Helvetica Neue", u"Liberation Sans"},
-                                                      {u"Arial", u"Liberation Sans"},
-                                                      {u"Times", u"Liberation Serif"},
-                                                      {u"Times New Roman", u"Liberation Serif"},
-                                                      {u"Courier", u"Liberation Mono"},
-                                                      {u"Courier New", u"Liberation Mono"}}};
+/// Families that documents name everywhere, some by the one word that archives know them by, with free ones
+/// of the same widths.
+constexpr std::array<Replacement, 13> replacements = {{{u"Helvetica", u"Liberation Sans"},
+                                                       {u"Helvetica Neue", u"Liberation Sans"},
+                                                       {u"HelveticaNeue", u"Liberation Sans"},
+                                                       {u"ArialMT", u"Liberation Sans"},
+                                                       {u"TimesNewRomanPS", u"Liberation Serif"},
+                                                       {u"TimesNewRomanPSMT", u"Liberation Serif"},
+                                                       {u"CourierNewPS", u"Liberation Mono"},
+                                                       {u"CourierNewPSMT", u"Liberation Mono"},
+                                                       {u"Arial", u"Liberation Sans"},
+                                                       {u"Times", u"Liberation Serif"},
+                                                       {u"Times New Roman", u"Liberation Serif"},
+                                                       {u"Courier", u"Liberation Mono"},
+                                                       {u"Courier New", u"Liberation Mono"}}};
 
 const QSet<QString> &installedFamilies()
 {

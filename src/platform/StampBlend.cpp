@@ -1,5 +1,6 @@
 #include "platform/StampBlend.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace platform {
@@ -37,7 +38,8 @@ void blendRow(uchar *lower, const QRgb *stamp, int width, unsigned opacity)
 void blendOntoRGB888(QImage &lower, const QPoint &place, const QImage &stamp, double alpha)
 {
     const QRect part = QRect(place, stamp.size()).intersected(lower.rect());
-    const auto opacity = unsigned(std::lround(alpha * 255));
+    // Archives hold any opacity, and a painter takes what is beyond the ends for them too.
+    const auto opacity = unsigned(std::lround(std::clamp(alpha, 0.0, 1.0) * 255));
     for (int y = part.top(); y <= part.bottom(); ++y) {
         const auto *row = reinterpret_cast<const QRgb *>(stamp.constScanLine(y - place.y()));
         blendRow(lower.scanLine(y) + part.left() * 3, row + (part.left() - place.x()), part.width(), opacity);

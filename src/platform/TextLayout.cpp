@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QPainterPath>
 #include <QRawFont>
 #include <QRegularExpression>
@@ -49,10 +50,16 @@ QTextOption lineOption()
     return option;
 }
 
-/// Fonts of ready-made colour pictures have no outlines to scale or to trace.
+/// Fonts of ready-made colour pictures have no outlines to scale or to trace. Asking one copies its pictures,
+/// ten megabytes of them, so it is asked once.
 bool hasColorPictures(const QRawFont &font)
 {
-    return !font.fontTable("CBDT").isEmpty() || !font.fontTable("sbix").isEmpty();
+    thread_local QHash<QString, bool> known;
+    const QString name = font.familyName() + u'-' + font.styleName();
+    const auto answer = known.constFind(name);
+    if (answer != known.constEnd())
+        return *answer;
+    return *known.insert(name, !font.fontTable("CBDT").isEmpty() || !font.fontTable("sbix").isEmpty());
 }
 
 /// The outlines of a run, each glyph by itself or all in one. One outline costs more the longer it is, but

@@ -4,8 +4,10 @@
 #include "overlays/TSOverlayClasses.h"
 #include "overlays/TSPackedColor.h"
 #include "overlays/TSText.h"
+#include "overlays/TSWildcards.h"
 #include "platform/Folders.h"
 #include "platform/KeyedArchive.h"
+#include "platform/KeyedArchiver.h"
 #include "support/Session.h"
 
 namespace {
@@ -13,6 +15,18 @@ namespace {
 class OverlayArchiveTest : public SessionTest {
 protected:
     OverlayArchiveTest() { session.setCanvas({0, 0, 800, 600}); }
+};
+
+/// A text as other programs may have written it: numbers and lists among its words, and tokens of no kind.
+struct MixedText : TSText {
+    MixedText() : TSText("x") {}
+    void encodeWithCoder(platform::KeyedArchiver &coder) const override
+    {
+        using Array = platform::ArchiveValue::Array;
+        TSText::encodeWithCoder(coder);
+        coder.encodeObject(u"textArray", Array{QString("a"), qint64(5), QString("b"),
+                                               std::make_shared<TSToken>(), Array{true}});
+    }
 };
 
 /// What comes back from an archive of the object.
@@ -100,6 +114,13 @@ TEST_F(OverlayArchiveTest, TextComesBackWithItsTokensAndLook)
     back->updateText("one");
     back->updateTextFrame();
     EXPECT_DOUBLE_EQ(back->frame().height(), 30) << "the line count of the last fitting is kept";
+}
+
+TEST_F(OverlayArchiveTest, WhatIsNoTextRepeatsTheWordsBefore)
+{
+    const auto back = passOn<TSText>(std::make_shared<MixedText>());
+    ASSERT_TRUE(back);
+    EXPECT_EQ(TSTextForTokenValues({}, back->textArray(), false), "aabbb");
 }
 
 TEST_F(OverlayArchiveTest, ScriptTextGetsTheCanvasFromTheNextRebuildOnly)

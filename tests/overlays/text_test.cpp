@@ -1,3 +1,4 @@
+#include "overlays/TSImage.h"
 #include "overlays/TSText.h"
 #include "platform/PaintLayer.h"
 #include "platform/TextLayout.h"
@@ -106,6 +107,19 @@ TEST_F(TextTest, TurnedTextGrowsFromTheCornerItBeginsAt)
     }
 }
 
+/// Millions of pixels wide, and of no number at all.
+TEST_F(TextTest, PicturesOfAnySizeAreDrawnAsFarAsTheyAreSeen)
+{
+    TSImage image(session.writePng("red.png", plainImage({8, 8}, Qt::red)));
+    image.setOpacity(1);
+    image.setFrame({-1e6, -1e6, 2e6, 2e6});
+    EXPECT_EQ(extentOf(seen(image), Qt::red), QRect({0, 0}, kCanvas));
+    image.setFrame({10, 10, qQNaN(), 20});
+    platform::PaintLayer layer(kCanvas);
+    image.drawIncontext(layer);
+    EXPECT_TRUE(layer.isEmpty());
+}
+
 TEST_F(TextTest, EmptyOrOfNoTypeDrawsNothing)
 {
     for (const int type : {TSTextType::Plain, TSTextType::Script, 2}) {
@@ -148,6 +162,12 @@ TEST_F(TextTest, GlowEndsAtTheFrame)
     text->setGlowWidth(600);
     text->updateRenderTextImage();
     EXPECT_EQ(boxWhere(seen(*text), isOver(0)), text->frame().toAlignedRect());
+    text->setGlowColor({0, 1, 0, 1});
+    for (const auto &[width, isSeen] : {std::pair(30.0, true), {0.0, false}}) {
+        text->setGlowWidth(width);
+        text->updateRenderTextImage();
+        EXPECT_EQ(!boxWhere(seen(*text), isGreen).isEmpty(), isSeen) << width;
+    }
 }
 
 TEST_F(TextTest, BlurOfAShadowDoesNotGrowWithTheText)
@@ -165,6 +185,15 @@ TEST_F(TextTest, BlurOfAShadowDoesNotGrowWithTheText)
     }
     EXPECT_GT(growth[0], 16);
     EXPECT_NEAR(growth[0], growth[1], 3);
+}
+
+TEST_F(TextTest, TilesWithAShadowThatReachesBeyondAllAreDrawnInTime)
+{
+    const auto text = textAt("I", {0, 0}, 40);
+    text->setTextType(TSTextType::Script);
+    text->setIsShadowEnable(true);
+    text->setShadow(std::make_shared<TSShadow>(platform::Color::black(), 1e9f, 0.0f, 1e6f));
+    EXPECT_FALSE(boxWhere(seen(*text), isOver(128)).isEmpty());
 }
 
 TEST_F(TextTest, UnturnedTextIsDrawnWhereItStandsWithoutResampling)

@@ -82,6 +82,15 @@ TEST(PaintLayerTest, ShadowFadesWithItsCasterAndSpreadsByItsBlur)
     EXPECT_NEAR(image.pixelColor(50, 75).alpha(), 64, 2);
     EXPECT_NEAR(image.pixelColor(30, 75).alpha(), 32, 6) << "half at the edge";
     EXPECT_EQ(image.pixelColor(10, 75).alpha(), 0);
+    for (const auto &[alpha, red] : {std::pair(5.0, 255), {-1.0, 0}}) {
+        platform::PaintLayer beyond(kCanvas);
+        beyond.setAlpha(alpha);
+        beyond.drawImage({0, 0, 8, 8}, square(8, Qt::red));
+        QImage photo(kCanvas, QImage::Format_RGB888);
+        photo.fill(Qt::black);
+        beyond.paintOnto(photo, {0, 0});
+        EXPECT_EQ(photo.pixelColor(4, 4), QColor(red, 0, 0)) << alpha;
+    }
 
     platform::PaintLayer outside(kCanvas);
     outside.setShadow({100, 0}, 0, {0, 0, 1, 1});
