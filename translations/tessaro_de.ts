@@ -479,5 +479,201 @@
         <source>All files</source>
         <translation>Alle Dateien</translation>
     </message>
+    <message id="%1 is not a folder.">
+        <source>%1 is not a folder.</source>
+        <translation>%1 ist kein Ordner.</translation>
+    </message>
+    <message id="%1 is one of the originals and is not written to.">
+        <source>%1 is one of the originals and is not written to.</source>
+        <translation>%1 ist eines der Originale und wird nicht überschrieben.</translation>
+    </message>
+    <message id="A folder stands under the name %1.">
+        <source>A folder stands under the name %1.</source>
+        <translation>Unter dem Namen %1 gibt es schon einen Ordner.</translation>
+    </message>
+    <message id="A name cannot begin with a full stop.">
+        <source>A name cannot begin with a full stop.</source>
+        <translation>Ein Name darf nicht mit einem Punkt beginnen.</translation>
+    </message>
+    <message id="A name cannot hold the character &quot;/&quot;.">
+        <source>A name cannot hold the character "/".</source>
+        <translation>Ein Name darf das Zeichen „/“ nicht enthalten.</translation>
+    </message>
+    <message id="Drawing the file takes longer than 10 seconds.">
+        <source>Drawing the file takes longer than 10 seconds.</source>
+        <translation>Das Zeichnen der Datei dauert länger als 10 Sekunden.</translation>
+    </message>
+    <message id="Drawing the file takes more memory than it may have.">
+        <source>Drawing the file takes more memory than it may have.</source>
+        <translation>Das Zeichnen der Datei braucht mehr Speicher, als erlaubt ist.</translation>
+    </message>
+    <message id="MenuDown">
+        <source>Send Backward</source>
+        <translation>Nach hinten</translation>
+    </message>
+    <message id="MenuLarger">
+        <source>Larger</source>
+        <translation>Größer</translation>
+    </message>
+    <message id="MenuSmaller">
+        <source>Smaller</source>
+        <translation>Kleiner</translation>
+    </message>
+    <message id="MenuTurnLeft">
+        <source>Turn Left</source>
+        <translation>Nach links drehen</translation>
+    </message>
+    <message id="MenuTurnRight">
+        <source>Turn Right</source>
+        <translation>Nach rechts drehen</translation>
+    </message>
+    <message id="MenuUp">
+        <source>Bring Forward</source>
+        <translation>Nach vorn</translation>
+    </message>
+    <message id="MenuZoomIn">
+        <source>Zoom In</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message id="MenuZoomOut">
+        <source>Zoom Out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message id="The disk is full.">
+        <source>The disk is full.</source>
+        <translation>Der Datenträger ist voll.</translation>
+    </message>
+    <message id="The document is protected by a password.">
+        <source>The document is protected by a password.</source>
+        <translation>Das Dokument ist durch ein Kennwort geschützt.</translation>
+    </message>
+    <message id="The drawing has no size, or cannot be read.">
+        <source>The drawing has no size, or cannot be read.</source>
+        <translation>Die Zeichnung hat keine Größe oder lässt sich nicht lesen.</translation>
+    </message>
+    <message id="The export was cancelled.">
+        <source>The export was cancelled.</source>
+        <translation>Der Export wurde abgebrochen.</translation>
+    </message>
+    <message id="The file could not be written: %1.">
+        <source>The file could not be written: %1.</source>
+        <translation>Die Datei konnte nicht geschrieben werden: %1.</translation>
+    </message>
+    <message id="The file is damaged (%1).">
+        <source>The file is damaged (%1).</source>
+        <translation>Die Datei ist beschädigt (%1).</translation>
+    </message>
+    <message id="The file is damaged, or is not what its name says.">
+        <source>The file is damaged, or is not what its name says.</source>
+        <translation>Die Datei ist beschädigt oder nicht das, was ihr Name sagt.</translation>
+    </message>
+    <message id="The file is damaged: it breaks off before its end (%1).">
+        <source>The file is damaged: it breaks off before its end (%1).</source>
+        <translation>Die Datei ist beschädigt: Sie bricht vor ihrem Ende ab (%1).</translation>
+    </message>
+    <message id="The file is empty.">
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message id="The file is not a PDF document.">
+        <source>The file is not a PDF document.</source>
+        <translation>Die Datei ist kein PDF-Dokument.</translation>
+    </message>
+    <message id="The file is not a PostScript drawing with a size.">
+        <source>The file is not a PostScript drawing with a size.</source>
+        <translation>Die Datei ist keine PostScript-Zeichnung mit einer Größe.</translation>
+    </message>
+    <message id="The file is not a picture that can be read.">
+        <source>The file is not a picture that can be read.</source>
+        <translation>Die Datei ist kein lesbares Bild.</translation>
+    </message>
+    <message id="The file may not be read: permission is missing.">
+        <source>The file may not be read: permission is missing.</source>
+        <translation>Die Datei darf nicht gelesen werden: Die Berechtigung fehlt.</translation>
+    </message>
+    <message id="The folder %1 could not be made.">
+        <source>The folder %1 could not be made.</source>
+        <translation>Der Ordner %1 konnte nicht angelegt werden.</translation>
+    </message>
+    <message id="The folder %1 could not be written to.">
+        <source>The folder %1 could not be written to.</source>
+        <translation>In den Ordner %1 konnte nicht geschrieben werden.</translation>
+    </message>
+    <message id="The folder %1 does not exist.">
+        <source>The folder %1 does not exist.</source>
+        <translation>Den Ordner %1 gibt es nicht.</translation>
+    </message>
+    <message id="The folder %1 may not be written to.">
+        <source>The folder %1 may not be written to.</source>
+        <translation>In den Ordner %1 darf nicht geschrieben werden.</translation>
+    </message>
+    <message id="The name is empty.">
+        <source>The name is empty.</source>
+        <translation>Der Name ist leer.</translation>
+    </message>
+    <message id="The name is too long.">
+        <source>The name is too long.</source>
+        <translation>Der Name ist zu lang.</translation>
+    </message>
+    <message id="The output would have %1 pixels, more than 20000 × 20000; make it smaller.">
+        <source>The output would have %1 pixels, more than 20000 × 20000; make it smaller.</source>
+        <translation>Das Ergebnis hätte %1 Pixel, mehr als 20000 × 20000; bitte kleiner wählen.</translation>
+    </message>
+    <message id="A JPEG picture has at most %1 pixels on a side; make it smaller, or choose another format.">
+        <source>A JPEG picture has at most %1 pixels on a side; make it smaller, or choose another format.</source>
+        <translation>Ein JPEG-Bild hat höchstens %1 Pixel an einer Seite; verkleinern Sie es, oder wählen Sie ein anderes Format.</translation>
+    </message>
+    <message id="The output would have no size.">
+        <source>The output would have no size.</source>
+        <translation>Das Ergebnis hätte keine Größe.</translation>
+    </message>
+    <message id="The photo could not be decoded (%1).">
+        <source>The photo could not be decoded (%1).</source>
+        <translation>Das Foto ließ sich nicht lesen (%1).</translation>
+    </message>
+    <message id="The photo could not be decoded.">
+        <source>The photo could not be decoded.</source>
+        <translation>Das Foto ließ sich nicht lesen.</translation>
+    </message>
+    <message id="The photo is in the list already.">
+        <source>The photo is in the list already.</source>
+        <translation>Das Foto ist schon in der Liste.</translation>
+    </message>
+    <message id="The photo's file is no longer there.">
+        <source>The photo's file is no longer there.</source>
+        <translation>Die Datei des Fotos ist nicht mehr da.</translation>
+    </message>
+    <message id="The profile %1 could not be put in its place.">
+        <source>The profile %1 could not be put in its place.</source>
+        <translation>Das Layout %1 konnte nicht an seinen Platz gelegt werden.</translation>
+    </message>
+    <message id="The profile %1 could not be written.">
+        <source>The profile %1 could not be written.</source>
+        <translation>Das Layout %1 konnte nicht geschrieben werden.</translation>
+    </message>
+    <message id="The program that draws such files is not installed.">
+        <source>The program that draws such files is not installed.</source>
+        <translation>Das Programm, das solche Dateien zeichnet, ist nicht installiert.</translation>
+    </message>
+    <message id="The run was stopped: %1 is there already.">
+        <source>The run was stopped: %1 is there already.</source>
+        <translation>Der Export wurde angehalten: %1 gibt es schon.</translation>
+    </message>
+    <message id="There is no photo to lay the marks out on.">
+        <source>There is no photo to lay the marks out on.</source>
+        <translation>Es gibt kein Foto, auf dem die Wasserzeichen liegen könnten.</translation>
+    </message>
+    <message id="There is no such file.">
+        <source>There is no such file.</source>
+        <translation>Diese Datei gibt es nicht.</translation>
+    </message>
+    <message id="This is a folder, not a photo.">
+        <source>This is a folder, not a photo.</source>
+        <translation>Das ist ein Ordner, kein Foto.</translation>
+    </message>
+    <message id="This is not a file.">
+        <source>This is not a file.</source>
+        <translation>Das ist keine Datei.</translation>
+    </message>
 </context>
 </TS>

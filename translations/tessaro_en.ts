@@ -479,5 +479,201 @@
         <source>All files</source>
         <translation>All files</translation>
     </message>
+    <message id="%1 is not a folder.">
+        <source>%1 is not a folder.</source>
+        <translation>%1 is not a folder.</translation>
+    </message>
+    <message id="%1 is one of the originals and is not written to.">
+        <source>%1 is one of the originals and is not written to.</source>
+        <translation>%1 is one of the originals and is not written to.</translation>
+    </message>
+    <message id="A folder stands under the name %1.">
+        <source>A folder stands under the name %1.</source>
+        <translation>A folder stands under the name %1.</translation>
+    </message>
+    <message id="A name cannot begin with a full stop.">
+        <source>A name cannot begin with a full stop.</source>
+        <translation>A name cannot begin with a full stop.</translation>
+    </message>
+    <message id="A name cannot hold the character &quot;/&quot;.">
+        <source>A name cannot hold the character "/".</source>
+        <translation>A name cannot hold the character "/".</translation>
+    </message>
+    <message id="Drawing the file takes longer than 10 seconds.">
+        <source>Drawing the file takes longer than 10 seconds.</source>
+        <translation>Drawing the file takes longer than 10 seconds.</translation>
+    </message>
+    <message id="Drawing the file takes more memory than it may have.">
+        <source>Drawing the file takes more memory than it may have.</source>
+        <translation>Drawing the file takes more memory than it may have.</translation>
+    </message>
+    <message id="MenuDown">
+        <source>Send Backward</source>
+        <translation>Send Backward</translation>
+    </message>
+    <message id="MenuLarger">
+        <source>Larger</source>
+        <translation>Larger</translation>
+    </message>
+    <message id="MenuSmaller">
+        <source>Smaller</source>
+        <translation>Smaller</translation>
+    </message>
+    <message id="MenuTurnLeft">
+        <source>Turn Left</source>
+        <translation>Turn Left</translation>
+    </message>
+    <message id="MenuTurnRight">
+        <source>Turn Right</source>
+        <translation>Turn Right</translation>
+    </message>
+    <message id="MenuUp">
+        <source>Bring Forward</source>
+        <translation>Bring Forward</translation>
+    </message>
+    <message id="MenuZoomIn">
+        <source>Zoom In</source>
+        <translation>Zoom In</translation>
+    </message>
+    <message id="MenuZoomOut">
+        <source>Zoom Out</source>
+        <translation>Zoom Out</translation>
+    </message>
+    <message id="The disk is full.">
+        <source>The disk is full.</source>
+        <translation>The disk is full.</translation>
+    </message>
+    <message id="The document is protected by a password.">
+        <source>The document is protected by a password.</source>
+        <translation>The document is protected by a password.</translation>
+    </message>
+    <message id="The drawing has no size, or cannot be read.">
+        <source>The drawing has no size, or cannot be read.</source>
+        <translation>The drawing has no size, or cannot be read.</translation>
+    </message>
+    <message id="The export was cancelled.">
+        <source>The export was cancelled.</source>
+        <translation>The export was cancelled.</translation>
+    </message>
+    <message id="The file could not be written: %1.">
+        <source>The file could not be written: %1.</source>
+        <translation>The file could not be written: %1.</translation>
+    </message>
+    <message id="The file is damaged (%1).">
+        <source>The file is damaged (%1).</source>
+        <translation>The file is damaged (%1).</translation>
+    </message>
+    <message id="The file is damaged, or is not what its name says.">
+        <source>The file is damaged, or is not what its name says.</source>
+        <translation>The file is damaged, or is not what its name says.</translation>
+    </message>
+    <message id="The file is damaged: it breaks off before its end (%1).">
+        <source>The file is damaged: it breaks off before its end (%1).</source>
+        <translation>The file is damaged: it breaks off before its end (%1).</translation>
+    </message>
+    <message id="The file is empty.">
+        <source>The file is empty.</source>
+        <translation>The file is empty.</translation>
+    </message>
+    <message id="The file is not a PDF document.">
+        <source>The file is not a PDF document.</source>
+        <translation>The file is not a PDF document.</translation>
+    </message>
+    <message id="The file is not a PostScript drawing with a size.">
+        <source>The file is not a PostScript drawing with a size.</source>
+        <translation>The file is not a PostScript drawing with a size.</translation>
+    </message>
+    <message id="The file is not a picture that can be read.">
+        <source>The file is not a picture that can be read.</source>
+        <translation>The file is not a picture that can be read.</translation>
+    </message>
+    <message id="The file may not be read: permission is missing.">
+        <source>The file may not be read: permission is missing.</source>
+        <translation>The file may not be read: permission is missing.</translation>
+    </message>
+    <message id="The folder %1 could not be made.">
+        <source>The folder %1 could not be made.</source>
+        <translation>The folder %1 could not be made.</translation>
+    </message>
+    <message id="The folder %1 could not be written to.">
+        <source>The folder %1 could not be written to.</source>
+        <translation>The folder %1 could not be written to.</translation>
+    </message>
+    <message id="The folder %1 does not exist.">
+        <source>The folder %1 does not exist.</source>
+        <translation>The folder %1 does not exist.</translation>
+    </message>
+    <message id="The folder %1 may not be written to.">
+        <source>The folder %1 may not be written to.</source>
+        <translation>The folder %1 may not be written to.</translation>
+    </message>
+    <message id="The name is empty.">
+        <source>The name is empty.</source>
+        <translation>The name is empty.</translation>
+    </message>
+    <message id="The name is too long.">
+        <source>The name is too long.</source>
+        <translation>The name is too long.</translation>
+    </message>
+    <message id="The output would have %1 pixels, more than 20000 × 20000; make it smaller.">
+        <source>The output would have %1 pixels, more than 20000 × 20000; make it smaller.</source>
+        <translation>The output would have %1 pixels, more than 20000 × 20000; make it smaller.</translation>
+    </message>
+    <message id="A JPEG picture has at most %1 pixels on a side; make it smaller, or choose another format.">
+        <source>A JPEG picture has at most %1 pixels on a side; make it smaller, or choose another format.</source>
+        <translation>A JPEG picture has at most %1 pixels on a side; make it smaller, or choose another format.</translation>
+    </message>
+    <message id="The output would have no size.">
+        <source>The output would have no size.</source>
+        <translation>The output would have no size.</translation>
+    </message>
+    <message id="The photo could not be decoded (%1).">
+        <source>The photo could not be decoded (%1).</source>
+        <translation>The photo could not be decoded (%1).</translation>
+    </message>
+    <message id="The photo could not be decoded.">
+        <source>The photo could not be decoded.</source>
+        <translation>The photo could not be decoded.</translation>
+    </message>
+    <message id="The photo is in the list already.">
+        <source>The photo is in the list already.</source>
+        <translation>The photo is in the list already.</translation>
+    </message>
+    <message id="The photo's file is no longer there.">
+        <source>The photo's file is no longer there.</source>
+        <translation>The photo's file is no longer there.</translation>
+    </message>
+    <message id="The profile %1 could not be put in its place.">
+        <source>The profile %1 could not be put in its place.</source>
+        <translation>The profile %1 could not be put in its place.</translation>
+    </message>
+    <message id="The profile %1 could not be written.">
+        <source>The profile %1 could not be written.</source>
+        <translation>The profile %1 could not be written.</translation>
+    </message>
+    <message id="The program that draws such files is not installed.">
+        <source>The program that draws such files is not installed.</source>
+        <translation>The program that draws such files is not installed.</translation>
+    </message>
+    <message id="The run was stopped: %1 is there already.">
+        <source>The run was stopped: %1 is there already.</source>
+        <translation>The run was stopped: %1 is there already.</translation>
+    </message>
+    <message id="There is no photo to lay the marks out on.">
+        <source>There is no photo to lay the marks out on.</source>
+        <translation>There is no photo to lay the marks out on.</translation>
+    </message>
+    <message id="There is no such file.">
+        <source>There is no such file.</source>
+        <translation>There is no such file.</translation>
+    </message>
+    <message id="This is a folder, not a photo.">
+        <source>This is a folder, not a photo.</source>
+        <translation>This is a folder, not a photo.</translation>
+    </message>
+    <message id="This is not a file.">
+        <source>This is not a file.</source>
+        <translation>This is not a file.</translation>
+    </message>
 </context>
 </TS>

@@ -475,5 +475,201 @@
         <source>All files</source>
         <translation>所有文件</translation>
     </message>
+    <message id="%1 is not a folder.">
+        <source>%1 is not a folder.</source>
+        <translation>%1 不是文件夹。</translation>
+    </message>
+    <message id="%1 is one of the originals and is not written to.">
+        <source>%1 is one of the originals and is not written to.</source>
+        <translation>%1 是原始照片之一，不会被写入。</translation>
+    </message>
+    <message id="A folder stands under the name %1.">
+        <source>A folder stands under the name %1.</source>
+        <translation>名称 %1 已是一个文件夹。</translation>
+    </message>
+    <message id="A name cannot begin with a full stop.">
+        <source>A name cannot begin with a full stop.</source>
+        <translation>名称不能以句点开头。</translation>
+    </message>
+    <message id="A name cannot hold the character &quot;/&quot;.">
+        <source>A name cannot hold the character "/".</source>
+        <translation>名称不能包含字符“/”。</translation>
+    </message>
+    <message id="Drawing the file takes longer than 10 seconds.">
+        <source>Drawing the file takes longer than 10 seconds.</source>
+        <translation>绘制该文件超过了 10 秒。</translation>
+    </message>
+    <message id="Drawing the file takes more memory than it may have.">
+        <source>Drawing the file takes more memory than it may have.</source>
+        <translation>绘制该文件所需的内存超出限制。</translation>
+    </message>
+    <message id="MenuDown">
+        <source>Send Backward</source>
+        <translation>下移一层</translation>
+    </message>
+    <message id="MenuLarger">
+        <source>Larger</source>
+        <translation>放大水印</translation>
+    </message>
+    <message id="MenuSmaller">
+        <source>Smaller</source>
+        <translation>缩小水印</translation>
+    </message>
+    <message id="MenuTurnLeft">
+        <source>Turn Left</source>
+        <translation>向左旋转</translation>
+    </message>
+    <message id="MenuTurnRight">
+        <source>Turn Right</source>
+        <translation>向右旋转</translation>
+    </message>
+    <message id="MenuUp">
+        <source>Bring Forward</source>
+        <translation>上移一层</translation>
+    </message>
+    <message id="MenuZoomIn">
+        <source>Zoom In</source>
+        <translation>放大</translation>
+    </message>
+    <message id="MenuZoomOut">
+        <source>Zoom Out</source>
+        <translation>缩小</translation>
+    </message>
+    <message id="The disk is full.">
+        <source>The disk is full.</source>
+        <translation>磁盘已满。</translation>
+    </message>
+    <message id="The document is protected by a password.">
+        <source>The document is protected by a password.</source>
+        <translation>该文档受密码保护。</translation>
+    </message>
+    <message id="The drawing has no size, or cannot be read.">
+        <source>The drawing has no size, or cannot be read.</source>
+        <translation>该图形没有尺寸，或无法读取。</translation>
+    </message>
+    <message id="The export was cancelled.">
+        <source>The export was cancelled.</source>
+        <translation>导出已取消。</translation>
+    </message>
+    <message id="The file could not be written: %1.">
+        <source>The file could not be written: %1.</source>
+        <translation>无法写入文件：%1。</translation>
+    </message>
+    <message id="The file is damaged (%1).">
+        <source>The file is damaged (%1).</source>
+        <translation>文件已损坏（%1）。</translation>
+    </message>
+    <message id="The file is damaged, or is not what its name says.">
+        <source>The file is damaged, or is not what its name says.</source>
+        <translation>文件已损坏，或与其名称不符。</translation>
+    </message>
+    <message id="The file is damaged: it breaks off before its end (%1).">
+        <source>The file is damaged: it breaks off before its end (%1).</source>
+        <translation>文件已损坏：内容不完整（%1）。</translation>
+    </message>
+    <message id="The file is empty.">
+        <source>The file is empty.</source>
+        <translation>文件为空。</translation>
+    </message>
+    <message id="The file is not a PDF document.">
+        <source>The file is not a PDF document.</source>
+        <translation>该文件不是 PDF 文档。</translation>
+    </message>
+    <message id="The file is not a PostScript drawing with a size.">
+        <source>The file is not a PostScript drawing with a size.</source>
+        <translation>该文件不是带有尺寸的 PostScript 图形。</translation>
+    </message>
+    <message id="The file is not a picture that can be read.">
+        <source>The file is not a picture that can be read.</source>
+        <translation>该文件不是可读取的图片。</translation>
+    </message>
+    <message id="The file may not be read: permission is missing.">
+        <source>The file may not be read: permission is missing.</source>
+        <translation>无法读取文件：没有权限。</translation>
+    </message>
+    <message id="The folder %1 could not be made.">
+        <source>The folder %1 could not be made.</source>
+        <translation>无法创建文件夹 %1。</translation>
+    </message>
+    <message id="The folder %1 could not be written to.">
+        <source>The folder %1 could not be written to.</source>
+        <translation>无法写入文件夹 %1。</translation>
+    </message>
+    <message id="The folder %1 does not exist.">
+        <source>The folder %1 does not exist.</source>
+        <translation>文件夹 %1 不存在。</translation>
+    </message>
+    <message id="The folder %1 may not be written to.">
+        <source>The folder %1 may not be written to.</source>
+        <translation>没有写入文件夹 %1 的权限。</translation>
+    </message>
+    <message id="The name is empty.">
+        <source>The name is empty.</source>
+        <translation>名称为空。</translation>
+    </message>
+    <message id="The name is too long.">
+        <source>The name is too long.</source>
+        <translation>名称过长。</translation>
+    </message>
+    <message id="The output would have %1 pixels, more than 20000 × 20000; make it smaller.">
+        <source>The output would have %1 pixels, more than 20000 × 20000; make it smaller.</source>
+        <translation>输出将有 %1 像素，超过 20000 × 20000；请缩小。</translation>
+    </message>
+    <message id="A JPEG picture has at most %1 pixels on a side; make it smaller, or choose another format.">
+        <source>A JPEG picture has at most %1 pixels on a side; make it smaller, or choose another format.</source>
+        <translation>JPEG 图片每边最多 %1 像素；请缩小图片或选择其他格式。</translation>
+    </message>
+    <message id="The output would have no size.">
+        <source>The output would have no size.</source>
+        <translation>输出将没有尺寸。</translation>
+    </message>
+    <message id="The photo could not be decoded (%1).">
+        <source>The photo could not be decoded (%1).</source>
+        <translation>无法解码照片（%1）。</translation>
+    </message>
+    <message id="The photo could not be decoded.">
+        <source>The photo could not be decoded.</source>
+        <translation>无法解码照片。</translation>
+    </message>
+    <message id="The photo is in the list already.">
+        <source>The photo is in the list already.</source>
+        <translation>照片已在列表中。</translation>
+    </message>
+    <message id="The photo's file is no longer there.">
+        <source>The photo's file is no longer there.</source>
+        <translation>照片的文件已不存在。</translation>
+    </message>
+    <message id="The profile %1 could not be put in its place.">
+        <source>The profile %1 could not be put in its place.</source>
+        <translation>无法将版式 %1 放到其位置。</translation>
+    </message>
+    <message id="The profile %1 could not be written.">
+        <source>The profile %1 could not be written.</source>
+        <translation>无法写入版式 %1。</translation>
+    </message>
+    <message id="The program that draws such files is not installed.">
+        <source>The program that draws such files is not installed.</source>
+        <translation>未安装用于绘制此类文件的程序。</translation>
+    </message>
+    <message id="The run was stopped: %1 is there already.">
+        <source>The run was stopped: %1 is there already.</source>
+        <translation>导出已停止：%1 已存在。</translation>
+    </message>
+    <message id="There is no photo to lay the marks out on.">
+        <source>There is no photo to lay the marks out on.</source>
+        <translation>没有可放置水印的照片。</translation>
+    </message>
+    <message id="There is no such file.">
+        <source>There is no such file.</source>
+        <translation>没有这个文件。</translation>
+    </message>
+    <message id="This is a folder, not a photo.">
+        <source>This is a folder, not a photo.</source>
+        <translation>这是文件夹，不是照片。</translation>
+    </message>
+    <message id="This is not a file.">
+        <source>This is not a file.</source>
+        <translation>这不是文件。</translation>
+    </message>
 </context>
 </TS>

@@ -260,8 +260,17 @@ void TSBatchCommand::tellRest()
         untouched.reason = hasFolder ? QStringLiteral("The run was stopped before this photo.")
                                      : QStringLiteral("The folder %1 does not exist.").arg(m_options.output);
     }
+    qint64 count = 0;
     for (; m_told < m_entries.size(); ++m_told) {
         const Entry &entry = m_entries[m_told];
-        m_reporter.photo(entry.source, entry.photo < 0 ? entry.refusal : untouched);
+        if (entry.photo < 0 || untouched.status == Status::Failed) {
+            m_reporter.photo(entry.source, entry.photo < 0 ? entry.refusal : untouched);
+            continue;
+        }
+        m_reporter.untouched(entry.source, untouched);
+        ++count;
     }
+    // One by one, a list that was cancelled early would bury what else there is to say.
+    if (count > 0)
+        m_reporter.warning(QStringLiteral("%1 not begun: %2").arg(count).arg(untouched.reason));
 }

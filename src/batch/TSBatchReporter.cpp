@@ -52,16 +52,7 @@ void TSBatchReporter::photo(const QString &source, const TSExportOutcome &outcom
                             const std::optional<std::vector<TSMarkPlacement>> &marks)
 {
     const bool isPlanned = outcome.status == Status::Skipped && marks.has_value();
-    switch (outcome.status) {
-    case Status::Written:
-        ++m_written;
-        break;
-    case Status::Skipped:
-        ++m_skipped;
-        break;
-    case Status::Failed:
-        ++m_failed;
-    }
+    count(outcome);
     if (outcome.status != Status::Written && !isPlanned) {
         ++m_unwritten;
         warning(QStringLiteral("%1: %2: %3").arg(source, nameOf(outcome.status), outcome.reason));
@@ -76,6 +67,28 @@ void TSBatchReporter::photo(const QString &source, const TSExportOutcome &outcom
         put(stdout, QStringLiteral("%1 -> %2 (%3 x %4)\n")
                         .arg(source, outcome.targetPath, QString::number(outcome.size.width()),
                              QString::number(outcome.size.height())));
+}
+
+void TSBatchReporter::untouched(const QString &source, const TSExportOutcome &outcome)
+{
+    count(outcome);
+    ++m_unwritten;
+    if (m_form == Form::Json)
+        jsonLine(source, outcome, std::nullopt);
+}
+
+void TSBatchReporter::count(const TSExportOutcome &outcome)
+{
+    switch (outcome.status) {
+    case Status::Written:
+        ++m_written;
+        break;
+    case Status::Skipped:
+        ++m_skipped;
+        break;
+    case Status::Failed:
+        ++m_failed;
+    }
 }
 
 void TSBatchReporter::jsonLine(const QString &source, const TSExportOutcome &outcome,

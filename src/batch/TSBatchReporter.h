@@ -9,7 +9,7 @@
 #include <QString>
 
 /// Tells of a batch as it goes: a line of JSON for each photo, or a progress line on a terminal, or plain
-/// lines. What was not written is named on standard error, whatever the form.
+/// lines. What could not be written is named on standard error, whatever the form.
 class TSBatchReporter {
 public:
     enum class Form { Json, Terminal, Plain };
@@ -21,6 +21,9 @@ public:
     /// Photos in list order. The places of the marks are those of a dry run.
     void photo(const QString &source, const TSExportOutcome &outcome,
                const std::optional<std::vector<TSMarkPlacement>> &marks = std::nullopt);
+    /// A photo that the run did not come to. The form that lists every photo lists it; it has no warning of
+    /// its own.
+    void untouched(const QString &source, const TSExportOutcome &outcome);
     void warning(const QString &text);
     void end();
 
@@ -28,6 +31,7 @@ public:
     bool isComplete() const { return m_unwritten == 0; }
 
 private:
+    void count(const TSExportOutcome &outcome);
     void jsonLine(const QString &source, const TSExportOutcome &outcome,
                   const std::optional<std::vector<TSMarkPlacement>> &marks);
     void progressLine();

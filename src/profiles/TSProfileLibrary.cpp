@@ -67,13 +67,13 @@ QString TSProfileLibrary::problemWithName(const QString &name)
 {
     constexpr qsizetype longestFileName = 255;
     if (name.trimmed().isEmpty())
-        return QStringLiteral("The name is empty.");
+        return qtTrId("The name is empty.");
     if (name.contains(u'/') || name.contains(QChar(0)))
-        return QStringLiteral("A name cannot hold the character \"/\".");
+        return qtTrId("A name cannot hold the character \"/\".");
     if (name.startsWith(u'.'))
-        return QStringLiteral("A name cannot begin with a full stop.");
+        return qtTrId("A name cannot begin with a full stop.");
     if (name.toUtf8().size() + extension.size() + 1 > longestFileName)
-        return QStringLiteral("The name is too long.");
+        return qtTrId("The name is too long.");
     return {};
 }
 

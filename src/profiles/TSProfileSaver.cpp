@@ -2,6 +2,7 @@
 
 #include "export/TSOutputComposer.h"
 #include "overlays/TSImage.h"
+#include "overlays/TSOverlaySynchronisation.h"
 #include "platform/AtomicFile.h"
 #include "platform/Folders.h"
 #include "platform/KeyedArchive.h"
@@ -63,10 +64,10 @@ QString TSProfileSaver::saveProfile(const QString &name)
         return problem;
     const QString folder = TSProfileLibrary::userFolder();
     if (!QDir().mkpath(folder))
-        return QStringLiteral("The folder %1 could not be made.").arg(folder);
+        return qtTrId("The folder %1 could not be made.").arg(folder);
     QTemporaryDir workshop(folder + QStringLiteral("/.saving-XXXXXX"));
     if (!workshop.isValid())
-        return QStringLiteral("The folder %1 could not be written to.").arg(folder);
+        return qtTrId("The folder %1 could not be written to.").arg(folder);
 
     TSProfileSaver saver(name);
     QString failure = saver.writePackage(workshop.filePath(QFileInfo(saver.m_package).fileName()));
@@ -82,14 +83,14 @@ QString TSProfileSaver::saveProfile(const QString &name)
 QString TSProfileSaver::writePackage(const QString &folder)
 {
     if (!QDir().mkdir(folder))
-        return QStringLiteral("The profile %1 could not be written.").arg(m_name);
+        return qtTrId("The profile %1 could not be written.").arg(m_name);
     QString failure = saveProfileImageToPath(folder);
     if (failure.isEmpty())
         failure = saveFinderStickerTOPath(folder);
     if (failure.isEmpty())
         failure = saveProfileDataToPath(folder);
     if (failure.isEmpty() && !takePlace(folder, m_package))
-        failure = QStringLiteral("The profile %1 could not be put in its place.").arg(m_name);
+        failure = qtTrId("The profile %1 could not be put in its place.").arg(m_name);
     return failure;
 }
 
@@ -98,11 +99,14 @@ QString TSProfileSaver::saveProfileImageToPath(const QString &folder) const
     const TSPhotoManager *photos = TSPhotoManager::photoManager();
     const auto shown = photos->photoAtIndex(photos->selectedPhoto());
     if (!shown)
-        return QStringLiteral("There is no photo to lay the marks out on.");
+        return qtTrId("There is no photo to lay the marks out on.");
     platform::PaintLayer layer(pictureSize);
     TSOutputComposer composer;
     composer.overlayArrays = TSOverlayManager::overlayManager()->overlays();
     composer.drawOverlay(layer, pictureSize, 1.0, *shown, true);
+    // Tiles measure themselves where they are drawn, and the archive takes their measure of the photo's
+    // canvas.
+    TSOverlaySynchronisation().updateOverlaysRenderTextImage();
     QImage picture = profileBackground();
     QPainter painter(&picture);
     layer.paint(painter, picture.rect());

@@ -57,7 +57,8 @@ bool TSIsDirectory(const QString &path)
 
 bool TSIsEmptyDirectory(const QString &path)
 {
-    return !TSIsDirectory(path) || QDir(path).isEmpty();
+    return !TSIsDirectory(path) ||
+           QDir(path).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
 }
 
 bool TSIsWritableFile(const QString &path)

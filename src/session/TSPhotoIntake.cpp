@@ -31,16 +31,16 @@ QString reasonForRefusal(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists())
-        return QStringLiteral("There is no such file.");
+        return qtTrId("There is no such file.");
     if (info.isDir())
-        return QStringLiteral("This is a folder, not a photo.");
+        return qtTrId("This is a folder, not a photo.");
     if (!info.isFile())
-        return QStringLiteral("This is not a file.");
+        return qtTrId("This is not a file.");
     if (!info.isReadable())
-        return QStringLiteral("The file may not be read: permission is missing.");
+        return qtTrId("The file may not be read: permission is missing.");
     if (info.size() == 0)
-        return QStringLiteral("The file is empty.");
-    return QStringLiteral("The file is not a picture that can be read.");
+        return qtTrId("The file is empty.");
+    return qtTrId("The file is not a picture that can be read.");
 }
 
 std::shared_ptr<TSImageBrowserItem> newItem(const QString &path)
@@ -109,7 +109,7 @@ void TSPhotoIntake::addFile(const QString &path, bool isInsert)
         return refuse(path, reasonForRefusal(path));
     }
     if (!isAddItem(path))
-        return refuse(path, QStringLiteral("The photo is in the list already."));
+        return refuse(path, qtTrId("The photo is in the list already."));
     if (TSIsVectorType(type))
         addDrawing(path, type, isInsert);
     else if (type == TSImageTypeCode::TIFF || type == TSImageTypeCode::GIF)
@@ -134,7 +134,7 @@ void TSPhotoIntake::addFrames(const QString &path, bool isInsert)
     platform::FrameReader reader(path);
     const int frames = reader.frameCount();
     if (frames == 0)
-        return refuse(path, QStringLiteral("The file is not a picture that can be read."));
+        return refuse(path, qtTrId("The file is not a picture that can be read."));
     // A cancelled intake finishes its file: half of the frames could not be completed later, since the file
     // would count as a duplicate.
     for (int frame = 0; frame < frames; ++frame) {

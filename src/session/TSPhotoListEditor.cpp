@@ -154,5 +154,5 @@ void TSPhotoListEditor::removeItemsWithoutSource()
         m_strip.reloadData();
         m_strip.setSelectionIndex(data->photoCount() - 1);
     }
-    m_host.showAlert(QStringLiteral("Source don't exist"), QStringLiteral("delete no source file image"));
+    m_host.showAlert(qtTrId("Source don't exist"), qtTrId("delete no source file image"));
 }

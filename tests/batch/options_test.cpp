@@ -96,22 +96,6 @@ TEST(BatchOptions, WrongCommandsAreToldWithTheUsageThatApplies)
             << way;
 }
 
-TEST(BatchOptions, WhatIsNotAskedForHasItsDefault)
-{
-    const TSBatchOptions options = parsed("--output out/ p.jpg --text a");
-    EXPECT_EQ(options.output, QDir::currentPath() + QStringLiteral("/out"));
-    EXPECT_EQ(options.type, TSFileType::JPG);
-    EXPECT_EQ(options.quality, 85);
-    EXPECT_EQ(options.resizeWay, TSResizeWay::KeepOriginalSize);
-    EXPECT_EQ(options.conflict, TSConflictChoice::Rename);
-    const TSBatchMark &mark = options.marks.at(0);
-    EXPECT_EQ(mark.anchor, TSPositionCode::RightBottom);
-    EXPECT_EQ(mark.offset, QPointF(-2, -2));
-    EXPECT_EQ(mark.height, 5);
-    EXPECT_EQ(mark.opacity, 80);
-    EXPECT_EQ(hex(mark.color), "#ffffffff");
-}
-
 TEST(BatchOptions, ReadsTheWholeRun)
 {
     const TSBatchOptions options = parsed(

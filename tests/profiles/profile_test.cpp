@@ -147,7 +147,10 @@ TEST_F(ProfileTest, ALayoutKeepsItsPlaceOnAnotherCanvasAndInAnotherFolder)
     const auto tiles = std::make_shared<TSText>("PROOF");
     tiles->setTextType(TSTextType::Script);
     session.overlays.insertOverlay(tiles, 1);
+    tiles->updateRenderTextImage();
+    const QSizeF pitch = tiles->textSizeOfScript();
     ASSERT_EQ(TSProfileSaver::saveProfile("Corner"), "");
+    EXPECT_EQ(tiles->textSizeOfScript(), pitch) << "of the canvas, not of the package's picture";
     // Renamed, and brought to where it was never written.
     const QString moved = session.path("Sent to a friend.tspf");
     ASSERT_TRUE(QDir().rename(package("Corner"), moved));
