@@ -1,6 +1,5 @@
 #include "export/TSExportRun.h"
 
-#include "platform/FileIdentity.h"
 #include "session/TSDataManager.h"
 #include "session/TSFileUtility.h"
 #include "session/TSPhotoManager.h"
@@ -44,13 +43,16 @@ QString wholeSize(const QSizeF &size)
 
 TSExportRun::TSExportRun(TSExportHost &host) : m_host(host)
 {
-    m_writer.isCancelled = [this] { return isCancelled || TSDataManager::dataManager()->isExitExport; };
+    m_writer.isCancelled = [this] {
+        // The run comes by here while a photo streams, and nowhere else for as long.
+        settleIfWritten();
+        return isCancelled || TSDataManager::dataManager()->isExitExport;
+    };
 }
 
 void TSExportRun::savePhotos(const QString &folder)
 {
     TSDataManager *data = TSDataManager::dataManager();
-    m_folder = folder;
     m_isSkip = false;
     if (!TSIsDirectory(folder))
         return;
@@ -58,7 +60,6 @@ void TSExportRun::savePhotos(const QString &folder)
     m_savedPaths.clear();
     m_savedCount = 0;
     m_conflictChoice = TSConflictChoice::NotAsked;
-    m_plannedPaths.clear();
     if (data->exportNames.isEmpty()) {
         m_host.closeProgressSheet();
         return;
@@ -67,7 +68,7 @@ void TSExportRun::savePhotos(const QString &folder)
         m_host.closeProgressSheet();
         return;
     }
-    rememberOriginals();
+    m_targets.begin(folder, keptFiles);
     for (qint64 index = 0; index < data->photoCount(); ++index)
         if (exportPhoto(index) == Step::Leave)
             return;
@@ -92,16 +93,19 @@ bool TSExportRun::isHasBiggerPhoto()
     return isBigger;
 }
 
-/// The gate that each photo passes three times.
+/// The gate that each photo passes four times.
 bool TSExportRun::isLeaving()
 {
-    while (isPausing)
+    while (isPausing) {
+        settle();
         QThread::usleep(1000);
-    if (isCancelled) {
-        m_host.closeProgressSheet();
-        return true;
     }
-    return TSDataManager::dataManager()->isExitExport;
+    if (!isCancelled && !TSDataManager::dataManager()->isExitExport)
+        return false;
+    settle();
+    if (isCancelled)
+        m_host.closeProgressSheet();
+    return true;
 }
 
 TSExportRun::Step TSExportRun::exportPhoto(qint64 index)
@@ -112,28 +116,33 @@ TSExportRun::Step TSExportRun::exportPhoto(qint64 index)
     const auto item = TSDataManager::dataManager()->itemAtIndex(index);
     if (!photo || !item)
         return Step::GoOn;
-    QElapsedTimer timer;
-    timer.start();
+    m_photoTimer.start();
     TSExportOutcome outcome;
     outcome.size = QSizeF(photo->photoOutputSize).toSize();
     Step step = Step::GoOn;
     if (!TSFileExists(item->sourcePath())) {
         outcome.status = Status::Skipped;
-        outcome.reason = QStringLiteral("The photo's file is no longer there.");
+        outcome.reason = qtTrId("The photo's file is no longer there.");
+        settle();
         if (!m_isSkip)
             m_host.sourceIsMissing(item->sourcePath());
         m_isSkip = true;
     } else if (isTooBig(*photo)) {
-        outcome.reason =
-            QStringLiteral("The output would have %1 pixels, more than 20000 × 20000; make it smaller.")
-                .arg(wholeSize(photo->photoOutputSize));
+        outcome.reason = qtTrId("The output would have %1 pixels, more than 20000 × 20000; make it smaller.")
+                             .arg(wholeSize(photo->photoOutputSize));
     } else {
         step = saveImage(index, *photo, *item, outcome);
     }
-    outcome.milliseconds = timer.elapsed();
-    if (step == Step::GoOn || !outcome.reason.isEmpty())
-        m_host.photoIsDone(index, outcome);
+    if (step == Step::GoOn || (step == Step::Leave && !outcome.reason.isEmpty()))
+        report(index, outcome);
     return step;
+}
+
+void TSExportRun::report(qint64 index, TSExportOutcome &outcome)
+{
+    settle();
+    outcome.milliseconds = m_photoTimer.elapsed();
+    m_host.photoIsDone(index, outcome);
 }
 
 bool TSExportRun::isTooBig(const TSPhoto &photo) const
@@ -156,13 +165,15 @@ TSExportRun::Step TSExportRun::saveImage(qint64 index, const TSPhoto &photo, con
         return Step::GoOn;
     }
     outcome.size = image->size();
+    const QString name = data->exportNames.value(index);
+    QString path = m_targets.path(name);
+    if (isBoundToTrailing(name, path))
+        settle();
     if (isLeaving())
         return Step::Leave;
-    const QString name = data->exportNames.value(index);
-    QString path = QStringLiteral("%1/%2.%3").arg(m_folder, name, data->exportFormat);
     if (resolveConflict(name, path) == Step::Leave) {
         outcome.status = Status::Skipped;
-        outcome.reason = QStringLiteral("The run was stopped: %1 is there already.").arg(path);
+        outcome.reason = qtTrId("The run was stopped: %1 is there already.").arg(path);
         m_host.closeProgressSheet();
         return Step::Leave;
     }
@@ -172,87 +183,99 @@ TSExportRun::Step TSExportRun::saveImage(qint64 index, const TSPhoto &photo, con
         return Step::Leave;
     if (isDryRun && placed)
         placed(index, m_composer.placements(QSizeF(image->size()), photo));
-    writeImage(*image, photo, item, outcome);
-    if (outcome.status == Status::Failed && isLeaving()) {
-        outcome.status = Status::Skipped;
-        return Step::Leave;
+    if (isRefused(path, outcome)) {
+        settle();
+        m_host.setProgressTip(index);
+        return Step::GoOn;
     }
-    m_host.setProgressTip(index);
-    return Step::GoOn;
+    return writeImage(index, *image,
+                      {path, data->type, data->quality, item.sourcePath(), photo.propertiesDic}, outcome);
+}
+
+/// Whether a name is free shows once the file before is there, and a question is asked about nothing less
+/// than what the user can see.
+bool TSExportRun::isBoundToTrailing(const QString &name, const QString &path) const
+{
+    const bool asks = m_conflictChoice == TSConflictChoice::NotAsked && m_targets.isTaken(path);
+    return m_trailing && (asks || m_targets.mayMeet(name, m_trailing->path));
 }
 
 TSExportRun::Step TSExportRun::resolveConflict(const QString &name, QString &path)
 {
-    if (m_conflictChoice == TSConflictChoice::NotAsked && isTaken(path)) {
+    if (m_conflictChoice == TSConflictChoice::NotAsked && m_targets.isTaken(path)) {
         m_conflictChoice = m_host.nameIsTaken(path);
         if (m_conflictChoice == TSConflictChoice::Stop)
             return Step::Leave;
     }
     if (m_conflictChoice == TSConflictChoice::Rename)
-        path = uniquePath(name);
+        path = m_targets.uniquePath(name);
     return Step::GoOn;
 }
 
-void TSExportRun::writeImage(TSOutputImage &image, const TSPhoto &photo, const TSImageBrowserItem &item,
-                             TSExportOutcome &outcome)
+bool TSExportRun::isRefused(const QString &path, TSExportOutcome &outcome)
 {
-    const TSDataManager *data = TSDataManager::dataManager();
-    if (isOriginal(outcome.targetPath)) {
-        outcome.reason =
-            QStringLiteral("%1 is one of the originals and is not written to.").arg(outcome.targetPath);
-        return;
-    }
-    if (isDryRun) {
-        m_plannedPaths.insert(outcome.targetPath);
+    if (m_targets.isOriginal(path)) {
+        outcome.reason = qtTrId("%1 is one of the originals and is not written to.").arg(path);
+    } else if (isDryRun) {
+        m_targets.plan(path);
         outcome.status = Status::Skipped;
         outcome.reason = QStringLiteral("dry run");
-        return;
     }
-    TSOutputRequest request{outcome.targetPath, data->type, data->quality, item.sourcePath(),
-                            photo.propertiesDic};
-    const TSWriteResult result = m_writer.write(image, request);
-    outcome.reason = result.reason;
-    if (result.isWritten) {
+    return !outcome.reason.isEmpty();
+}
+
+TSExportRun::Step TSExportRun::writeImage(qint64 index, TSOutputImage &image, const TSOutputRequest &request,
+                                          TSExportOutcome &outcome)
+{
+    TSEncodedOutput encoded = m_writer.encode(image, request);
+    settle();
+    if (isLeaving()) {
+        outcome.status = Status::Skipped;
+        outcome.reason = qtTrId("The export was cancelled.");
+        return Step::Leave;
+    }
+    writeBehind(index, std::move(encoded), request, outcome);
+    return Step::Later;
+}
+
+/// The disk takes a good part of the time of a photo, and nothing of the processor's.
+void TSExportRun::writeBehind(qint64 index, TSEncodedOutput encoded, const TSOutputRequest &request,
+                              const TSExportOutcome &begun)
+{
+    const auto write = [this, encoded = std::move(encoded), request, begun, timer = m_photoTimer] {
+        const TSWriteResult result = m_writer.write(encoded, request);
+        TSExportOutcome outcome = begun;
+        outcome.status = result.isWritten ? Status::Written : Status::Failed;
+        outcome.reason = result.reason;
         outcome.note = result.note;
-        outcome.status = Status::Written;
+        outcome.milliseconds = timer.elapsed();
+        return outcome;
+    };
+    m_trailing.emplace(Trailing{index, request.targetPath, std::async(write)});
+}
+
+void TSExportRun::settle()
+{
+    if (!m_trailing)
+        return;
+    Trailing trailing = std::move(*m_trailing);
+    m_trailing.reset();
+    const TSExportOutcome outcome = trailing.outcome.get();
+    if (outcome.status == Status::Written)
         ++m_savedCount;
-    }
+    m_host.setProgressTip(trailing.index);
+    m_host.photoIsDone(trailing.index, outcome);
 }
 
-bool TSExportRun::isTaken(const QString &path) const
+void TSExportRun::settleIfWritten()
 {
-    return TSFileExists(path) || m_plannedPaths.contains(path);
-}
-
-QString TSExportRun::uniquePath(const QString &name) const
-{
-    const QString &format = TSDataManager::dataManager()->exportFormat;
-    QString path = TSUniquePath(m_folder, name, format);
-    // Names that a dry run has given out are not on the disk.
-    for (int number = 1; isTaken(path); ++number)
-        path = QStringLiteral("%1/%2_%3.%4")
-                   .arg(m_folder, name, QStringLiteral("%1").arg(number, 3, 10, QLatin1Char('0')), format);
-    return path;
-}
-
-void TSExportRun::rememberOriginals()
-{
-    m_originals.clear();
-    const TSDataManager *data = TSDataManager::dataManager();
-    for (qint64 index = 0; index < data->photoCount(); ++index)
-        m_originals.insert(platform::fileIdentity(data->itemAtIndex(index)->sourcePath()));
-    for (const QString &path : keptFiles)
-        m_originals.insert(platform::fileIdentity(path));
-    m_originals.remove(QString());
-}
-
-bool TSExportRun::isOriginal(const QString &path) const
-{
-    return m_originals.contains(platform::fileIdentity(path));
+    if (m_trailing && m_trailing->outcome.wait_for(std::chrono::seconds(0)) == std::future_status::ready)
+        settle();
 }
 
 void TSExportRun::finish()
 {
+    settle();
     m_host.closeProgressSheet();
     if (m_savedCount > 0)
         m_host.successfulSaveToPath(m_savedPaths.constFirst());

@@ -1,20 +1,23 @@
 #pragma once
 
 #include "export/TSExportHost.h"
+#include "export/TSExportTargets.h"
 #include "export/TSOutputComposer.h"
 #include "export/TSOutputWriter.h"
 
 #include <atomic>
+#include <future>
 #include <memory>
+#include <optional>
 #include <QElapsedTimer>
-#include <QSet>
 #include <QStringList>
 
 class TSImageBrowserItem;
 
 /// The run over the photo list: one file for every photo, in list order, on whatever thread calls
 /// `savePhotos`. The host answers its questions; the flags may be set from any thread, and are looked at
-/// three times in each photo and while its picture streams through.
+/// four times in each photo and while its picture streams through. While a photo streams, the one before it
+/// is still being written on another thread; what becomes of it is told before anything of a later one is.
 class TSExportRun {
 public:
     explicit TSExportRun(TSExportHost &host);
@@ -40,30 +43,40 @@ public:
     static bool isHasBiggerPhoto();
 
 private:
-    enum class Step { GoOn, Leave };
+    /// What follows a photo: its outcome is there, or it comes once the file is written, or the run ends.
+    enum class Step { GoOn, Later, Leave };
+    /// The photo whose file is being written.
+    struct Trailing {
+        qint64 index;
+        QString path;
+        std::future<TSExportOutcome> outcome;
+    };
 
     bool isLeaving();
     Step exportPhoto(qint64 index);
+    void report(qint64 index, TSExportOutcome &outcome);
     Step saveImage(qint64 index, const TSPhoto &photo, const TSImageBrowserItem &item,
                    TSExportOutcome &outcome);
+    bool isBoundToTrailing(const QString &name, const QString &path) const;
     Step resolveConflict(const QString &name, QString &path);
-    void writeImage(TSOutputImage &image, const TSPhoto &photo, const TSImageBrowserItem &item,
+    Step writeImage(qint64 index, TSOutputImage &image, const TSOutputRequest &request,
                     TSExportOutcome &outcome);
+    void writeBehind(qint64 index, TSEncodedOutput encoded, const TSOutputRequest &request,
+                     const TSExportOutcome &begun);
     bool isTooBig(const TSPhoto &photo) const;
-    bool isTaken(const QString &path) const;
-    QString uniquePath(const QString &name) const;
-    bool isOriginal(const QString &path) const;
-    void rememberOriginals();
+    bool isRefused(const QString &path, TSExportOutcome &outcome);
+    void settle();
+    void settleIfWritten();
     void finish();
 
     TSExportHost &m_host;
     TSOutputComposer m_composer;
     TSOutputWriter m_writer;
-    QString m_folder;
+    TSExportTargets m_targets;
     QStringList m_savedPaths;
     qint64 m_savedCount = 0;
     bool m_isSkip = false;
     int m_conflictChoice = TSConflictChoice::NotAsked;
-    QSet<QString> m_originals;
-    QSet<QString> m_plannedPaths;
+    QElapsedTimer m_photoTimer;
+    std::optional<Trailing> m_trailing;
 };

@@ -82,7 +82,7 @@ std::optional<TSOutputImage> TSOutputComposer::createOutputImage(const QString &
     const double height = std::round(frame.height());
     constexpr double largestSide = 1e7;
     if (!(width >= 1 && height >= 1 && width <= largestSide && height <= largestSide)) {
-        m_reason = QStringLiteral("The output would have no size.");
+        m_reason = qtTrId("The output would have no size.");
         return std::nullopt;
     }
     const QSize size{int(width), int(height)};

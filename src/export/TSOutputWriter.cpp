@@ -2,8 +2,6 @@
 
 #include "export/TSFailureText.h"
 #include "platform/AtomicFile.h"
-#include "platform/CarriedMetadata.h"
-#include "platform/JpegFile.h"
 #include "platform/TiffMetadata.h"
 #include "session/TSOutputCodes.h"
 
@@ -34,6 +32,21 @@ platform::JpegOptions optionsFor(const TSOutputRequest &request,
     return options;
 }
 
+/// Of the encoder, a little below what the format could hold.
+constexpr int longestJpegSide = 65500;
+
+bool isTooLong(const QSize &size, unsigned type)
+{
+    return type == TSFileType::JPG && std::max(size.width(), size.height()) > longestJpegSide;
+}
+
+/// The other formats hold none that readers would look for.
+bool takesMetadata(const TSOutputRequest &request)
+{
+    return (request.type == TSFileType::JPG || request.type == TSFileType::TIFF) &&
+           !request.propertiesDic.isEmpty();
+}
+
 QString noteAbout(const platform::JpegRemainder &rest)
 {
     QStringList left;
@@ -54,57 +67,66 @@ QString noteAbout(const platform::JpegRemainder &rest)
 
 } // namespace
 
-TSWriteResult TSOutputWriter::write(TSOutputImage &image, const TSOutputRequest &request) const
+TSEncodedOutput TSOutputWriter::encode(TSOutputImage &image, const TSOutputRequest &request) const
 {
-    TSWriteResult result;
-    const QByteArray bytes = encoded(image, request, result);
+    TSEncodedOutput output;
+    if (isTooLong(image.size(), request.type)) {
+        output.reason = qtTrId("A JPEG picture has at most %1 pixels on a side; make it smaller, or choose "
+                               "another format.")
+                            .arg(longestJpegSide);
+        return output;
+    }
+    if (takesMetadata(request)) {
+        output.metadata = platform::CarriedMetadata::ofFile(request.sourcePath);
+        if (request.type == TSFileType::JPG)
+            output.source = platform::JpegFile::open(request.sourcePath);
+    }
+    const QSize thumbnail = image.size().scaled(output.metadata.largestPicture(), Qt::KeepAspectRatio);
+    output.bytes = encoded(image.picture(thumbnail), output, request);
+    output.thumbnail = image.thumbnail();
     const QString decoderText = platform::takeVipsError();
     if (isCancelled && isCancelled())
-        result.reason = QStringLiteral("The export was cancelled.");
-    else if (bytes.isEmpty() || TSTellsOfDamage(decoderText))
-        result.reason = TSDecodingFailureText(decoderText);
-    else
-        result.reason = put(bytes, request);
-    result.isWritten = result.reason.isEmpty();
-    return result;
+        output.reason = qtTrId("The export was cancelled.");
+    else if (output.bytes.isEmpty() || TSTellsOfDamage(decoderText))
+        output.reason = TSDecodingFailureText(decoderText);
+    return output;
 }
 
-QByteArray TSOutputWriter::encoded(TSOutputImage &image, const TSOutputRequest &request,
-                                   TSWriteResult &result) const
+QByteArray TSOutputWriter::encoded(const platform::LazyImage &picture, const TSEncodedOutput &output,
+                                   const TSOutputRequest &request) const
 {
     switch (request.type) {
     case TSFileType::JPG:
-        return encodedJpeg(image, request, result);
+        return picture.encodeJpeg(optionsFor(request, output.source), isCancelled);
     case TSFileType::PNG:
-        return image.picture().encodePng(isCancelled);
+        return picture.encodePng(isCancelled);
     default:
         // Files of the BMP type have always held TIFF data; readers of ours go by contents.
-        return image.picture().encodeTiff(isCancelled);
+        return picture.encodeTiff(isCancelled);
     }
 }
 
-QByteArray TSOutputWriter::encodedJpeg(TSOutputImage &image, const TSOutputRequest &request,
-                                       TSWriteResult &result) const
+TSWriteResult TSOutputWriter::write(const TSEncodedOutput &output, const TSOutputRequest &request) const
 {
-    if (request.propertiesDic.isEmpty())
-        return image.picture().encodeJpeg(optionsFor(request, std::nullopt), isCancelled);
-    const std::optional<platform::JpegFile> source = platform::JpegFile::open(request.sourcePath);
-    const auto metadata = platform::CarriedMetadata::ofFile(request.sourcePath);
-    const QSize thumbnail = image.size().scaled(metadata.largestPicture(), Qt::KeepAspectRatio);
-    const QByteArray bytes = image.picture(thumbnail).encodeJpeg(optionsFor(request, source), isCancelled);
-    if (source)
-        result.note = noteAbout(source->remainder());
-    return bytes.isEmpty() ? bytes : metadata.insertedInto(bytes, image.thumbnail());
+    TSWriteResult result;
+    result.reason = output.reason.isEmpty() ? put(output, request) : output.reason;
+    result.isWritten = result.reason.isEmpty();
+    if (result.isWritten && output.source)
+        result.note = noteAbout(output.source->remainder());
+    return result;
 }
 
-QString TSOutputWriter::put(const QByteArray &bytes, const TSOutputRequest &request) const
+QString TSOutputWriter::put(const TSEncodedOutput &output, const TSOutputRequest &request)
 {
-    const bool takesMetadata = request.type == TSFileType::TIFF && !request.propertiesDic.isEmpty();
-    if (!takesMetadata)
+    const QByteArray &bytes = output.bytes;
+    if (!takesMetadata(request))
         return platform::writeFileAtomically(request.targetPath, bytes);
-    const auto metadata = platform::CarriedMetadata::ofFile(request.sourcePath);
+    if (request.type == TSFileType::JPG)
+        return platform::writeFileAtomically(request.targetPath,
+                                             output.metadata.insertedInto(bytes, output.thumbnail));
     return platform::writeFileAtomically(request.targetPath, bytes.size(), [&](QIODevice &file) {
         // Metadata that does not fit into the file stays behind, and the picture is written all the same.
-        return platform::writeTiffWithMetadata(bytes, metadata, file) || file.write(bytes) == bytes.size();
+        return platform::writeTiffWithMetadata(bytes, output.metadata, file) ||
+               file.write(bytes) == bytes.size();
     });
 }

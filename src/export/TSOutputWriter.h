@@ -1,8 +1,11 @@
 #pragma once
 
 #include "export/TSOutputImage.h"
+#include "platform/CarriedMetadata.h"
+#include "platform/JpegFile.h"
 
 #include <functional>
+#include <optional>
 #include <QString>
 #include <QVariantMap>
 
@@ -17,6 +20,17 @@ struct TSOutputRequest {
     QVariantMap propertiesDic;
 };
 
+/// A picture that has been through its encoder, and what of its source goes along with it.
+struct TSEncodedOutput {
+    QByteArray bytes;
+    platform::CarriedMetadata metadata;
+    /// What takes the place of the pictures in the metadata.
+    QImage thumbnail;
+    std::optional<platform::JpegFile> source;
+    /// Why there are no bytes, in a sentence for the user.
+    QString reason;
+};
+
 struct TSWriteResult {
     bool isWritten = false;
     /// Why not, in a sentence for the user.
@@ -26,16 +40,18 @@ struct TSWriteResult {
 };
 
 /// Encodes an output into memory, puts the photo's metadata in, and writes the file whole or not at all. Any
-/// thread.
+/// thread; one output may be written while the next one is being encoded on another.
 class TSOutputWriter {
 public:
-    /// Once it answers true, the photo under way is given up. Asked from the encoding thread.
+    /// Once it answers true, the photo being encoded is given up. Asked again and again from the thread that
+    /// called `encode`.
     std::function<bool()> isCancelled;
 
-    TSWriteResult write(TSOutputImage &image, const TSOutputRequest &request) const;
+    TSEncodedOutput encode(TSOutputImage &image, const TSOutputRequest &request) const;
+    TSWriteResult write(const TSEncodedOutput &output, const TSOutputRequest &request) const;
 
 private:
-    QByteArray encodedJpeg(TSOutputImage &image, const TSOutputRequest &request, TSWriteResult &result) const;
-    QByteArray encoded(TSOutputImage &image, const TSOutputRequest &request, TSWriteResult &result) const;
-    QString put(const QByteArray &bytes, const TSOutputRequest &request) const;
+    QByteArray encoded(const platform::LazyImage &picture, const TSEncodedOutput &output,
+                       const TSOutputRequest &request) const;
+    static QString put(const TSEncodedOutput &output, const TSOutputRequest &request);
 };

@@ -1,4 +1,5 @@
 #include "export/TSExportRun.h"
+#include "export/TSExportTargets.h"
 #include "support/ExportSession.h"
 
 #include <csignal>
@@ -141,6 +142,33 @@ TEST_F(RunTest, ATakenNameIsAskedAboutOnce)
         EXPECT_EQ(asked.outcomes.back().status == Status::Skipped, answer == TSConflictChoice::Stop);
         EXPECT_EQ(bytesOf(out + QStringLiteral("/x.jpg")) == "there", *there != 0);
     }
+}
+
+TEST_F(RunTest, PhotosAreToldOfInOrderOnceTheirFilesAreThere)
+{
+    addPhotos({"a", "b", "c"});
+    session.data.exportNames = words("c A a");
+    const std::thread::id caller = std::this_thread::get_id();
+    QStringList told;
+    host.whenDone = [&](size_t count) {
+        told.append(QFileInfo(host.outcomes.back().targetPath).fileName());
+        EXPECT_TRUE(QFileInfo::exists(host.outcomes.back().targetPath));
+        EXPECT_EQ(host.tips.size(), qsizetype(count));
+        EXPECT_EQ(std::this_thread::get_id(), caller);
+    };
+    run.savePhotos(out);
+    EXPECT_EQ(told, words("c.jpg A.jpg a.jpg"));
+
+    const std::tuple<const char *, const char *, bool> names[] = {{"a", "a.jpg", true},
+                                                                  {"a", "a_001.jpg", true},
+                                                                  {"IMG", "img.jpg", true},
+                                                                  {"\u00E4", "a\u0308.jpg", true},
+                                                                  {"b", "a.jpg", false}};
+    TSExportTargets targets;
+    targets.begin(out, {});
+    for (const auto &[name, written, meets] : names)
+        EXPECT_EQ(targets.mayMeet(QString::fromUtf8(name), out + u'/' + QString::fromUtf8(written)), meets)
+            << name;
 }
 
 TEST_F(RunTest, ADryRunGivesOutTheNamesOfARealOne)

@@ -31,8 +31,9 @@ protected:
             return {};
         TSOutputWriter writer;
         writer.isCancelled = m_isCancelled;
-        m_result = writer.write(
-            *image, {session.path(name), type, session.data.quality, photo->path, photo->propertiesDic});
+        const TSOutputRequest request{session.path(name), type, session.data.quality, photo->path,
+                                      photo->propertiesDic};
+        m_result = writer.write(writer.encode(*image, request), request);
         EXPECT_EQ(m_result.isWritten, m_result.reason.isEmpty());
         return session.path(name);
     }
@@ -195,5 +196,8 @@ TEST_F(WriterTest, WhatIsGivenUpOrDamagedLeavesNothing)
             EXPECT_TRUE(m_result.reason.startsWith(u"The file is damaged")) << m_result.reason.toStdString();
         }
     }
+    write(TSFileType::JPG, "long.jpg", {65501, 2});
+    EXPECT_TRUE(m_result.reason.startsWith(u"A JPEG picture has at most 65500"))
+        << m_result.reason.toStdString();
     EXPECT_EQ(QDir(session.folder.path()).entryList(QDir::AllEntries | QDir::Hidden), before);
 }

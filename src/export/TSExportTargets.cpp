@@ -1,0 +1,58 @@
+#include "export/TSExportTargets.h"
+
+#include "platform/FileIdentity.h"
+#include "session/TSDataManager.h"
+#include "session/TSFileUtility.h"
+
+namespace {
+
+QString folded(const QString &path)
+{
+    return path.normalized(QString::NormalizationForm_KC).toCaseFolded();
+}
+
+} // namespace
+
+void TSExportTargets::begin(const QString &folder, const QStringList &keptFiles)
+{
+    m_folder = folder;
+    m_planned.clear();
+    m_originals.clear();
+    const TSDataManager *data = TSDataManager::dataManager();
+    for (qint64 index = 0; index < data->photoCount(); ++index)
+        m_originals.insert(platform::fileIdentity(data->itemAtIndex(index)->sourcePath()));
+    for (const QString &path : keptFiles)
+        m_originals.insert(platform::fileIdentity(path));
+    m_originals.remove(QString());
+}
+
+QString TSExportTargets::path(const QString &name) const
+{
+    return QStringLiteral("%1/%2.%3").arg(m_folder, name, TSDataManager::dataManager()->exportFormat);
+}
+
+QString TSExportTargets::uniquePath(const QString &name) const
+{
+    const QString &format = TSDataManager::dataManager()->exportFormat;
+    QString path = TSUniquePath(m_folder, name, format);
+    // Names that a dry run has given out are not on the disk.
+    for (int number = 1; isTaken(path); ++number)
+        path = QStringLiteral("%1/%2_%3.%4")
+                   .arg(m_folder, name, QStringLiteral("%1").arg(number, 3, 10, QLatin1Char('0')), format);
+    return path;
+}
+
+bool TSExportTargets::isTaken(const QString &path) const
+{
+    return TSFileExists(path) || m_planned.contains(path);
+}
+
+bool TSExportTargets::isOriginal(const QString &path) const
+{
+    return m_originals.contains(platform::fileIdentity(path));
+}
+
+bool TSExportTargets::mayMeet(const QString &name, const QString &path) const
+{
+    return folded(path).startsWith(folded(QStringLiteral("%1/%2").arg(m_folder, name)));
+}
