@@ -249,12 +249,25 @@ void TSImageBrowserView::keyPressEvent(QKeyEvent *event)
     const bool isDelete = event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace;
     if (isDelete && selectedIndex() >= 0)
         Q_EMIT removeItemsAtIndex(selectedIndex());
-    else if (pickByKey(event->key()))
+    else if (moveByKey(*event) || pickByKey(event->key()))
         event->accept();
     else if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && selectedIndex() >= 0)
         Q_EMIT cellWasDoubleClickedAtIndex(selectedIndex());
     else
         QAbstractItemView::keyPressEvent(event);
+}
+
+/// What a drag does, by Control and an arrow.
+bool TSImageBrowserView::moveByKey(const QKeyEvent &event)
+{
+    const int key = event.key(), index = selectedIndex();
+    if (!m_isMouseDragged || event.modifiers() != Qt::ControlModifier || index < 0 ||
+        (key != Qt::Key_Left && key != Qt::Key_Right))
+        return false;
+    const bool isForward = (key == Qt::Key_Right) != isRightToLeft();
+    if (isForward ? index < count() - 1 : index > 0)
+        Q_EMIT moveItemAtIndex(index, isForward ? index + 2 : index - 1);
+    return true;
 }
 
 bool TSImageBrowserView::pickByKey(int key)

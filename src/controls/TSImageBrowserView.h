@@ -113,6 +113,7 @@ private:
     void setInsertionMark(int gap);
     void updateTile();
     bool pickByKey(int key);
+    bool moveByKey(const QKeyEvent &event);
 
     Arrangement m_arrangement;
     TSImageBrowserModel *m_model;

@@ -2,9 +2,21 @@
 
 #include "controls/TSTheme.h"
 
+#include <QApplication>
+#include <QBitmap>
 #include <QEvent>
+#include <QMainWindow>
 #include <QPainter>
-#include <QPainterPath>
+#include <QPushButton>
+#include <QTimer>
+#include <QWindow>
+
+namespace {
+
+/// By then a window manager has done what it does about the keys, in milliseconds.
+constexpr int settled = 250;
+
+} // namespace
 
 TSSheet::TSSheet(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
 {
@@ -12,6 +24,8 @@ TSSheet::TSSheet(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::FramelessWi
     setAttribute(Qt::WA_TranslucentBackground);
     if (parent)
         parent->window()->installEventFilter(this);
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &TSSheet::giveKeysBack,
+            Qt::QueuedConnection);
 }
 
 TSSheet::~TSSheet()
@@ -20,10 +34,19 @@ TSSheet::~TSSheet()
     delete m_veil;
 }
 
-void TSSheet::setTopInset(int inset)
+QPushButton *TSSheet::newButton(const char *name, const QString &title)
 {
-    m_topInset = inset;
-    place();
+    auto *button = new QPushButton(title, this);
+    button->setObjectName(QLatin1String(name));
+    button->setAccessibleName(title);
+    button->setAutoDefault(false);
+    return button;
+}
+
+int TSSheet::topInset() const
+{
+    const auto *window = qobject_cast<QMainWindow *>(parentWidget()->window());
+    return window && window->centralWidget() ? window->centralWidget()->y() : 0;
 }
 
 bool TSSheet::eventFilter(QObject *object, QEvent *event)
@@ -33,17 +56,71 @@ bool TSSheet::eventFilter(QObject *object, QEvent *event)
     return QDialog::eventFilter(object, event);
 }
 
+void TSSheet::setVisible(bool visible)
+{
+    m_isLeaving = false;
+    QDialog::setVisible(visible);
+}
+
 void TSSheet::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
     dimParent();
     place();
+    m_hasHadKeys = isActiveWindow();
+    // When it takes the place of a sheet that is just going, some window managers leave the keys with
+    // neither.
+    activateWindow();
+    QTimer::singleShot(settled, this, &TSSheet::takeKeys);
+}
+
+void TSSheet::takeKeys()
+{
+    if (QApplication::activeModalWidget() == this && !isActiveWindow())
+        activateWindow();
+}
+
+void TSSheet::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow())
+        return;
+    m_hasHadKeys = true;
+    if (m_isLeaving)
+        QTimer::singleShot(0, this, &TSSheet::endLeaving);
+}
+
+/// What the window manager does and what the sheet does cross each other on their way: the word that it has
+/// the keys may come when it is gone, and no other word follows.
+void TSSheet::giveKeysBack()
+{
+    if (!isVisible() && parentWidget() && QApplication::activeWindow() == this)
+        QApplication::setActiveWindow(parentWidget()->window());
+}
+
+void TSSheet::leave()
+{
+    if (!isVisible() || m_isLeaving)
+        return;
+    if (m_hasHadKeys) {
+        hide();
+        return;
+    }
+    m_isLeaving = true;
+    QTimer::singleShot(2 * settled, this, &TSSheet::endLeaving);
+}
+
+void TSSheet::endLeaving()
+{
+    if (m_isLeaving)
+        hide();
 }
 
 void TSSheet::hideEvent(QHideEvent *event)
 {
     QDialog::hideEvent(event);
     delete m_veil;
+    QTimer::singleShot(settled, this, &TSSheet::giveKeysBack);
 }
 
 void TSSheet::dimParent()
@@ -63,7 +140,33 @@ void TSSheet::dimParent()
 void TSSheet::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
+    cutCorners();
     place();
+}
+
+/// Under X11 a compositor may be missing, and then what a window leaves clear is black. The cut takes about
+/// what stays clear all the same, so that where one runs the edge is as soft as it was drawn.
+void TSSheet::cutCorners()
+{
+    if (QGuiApplication::platformName() != u"xcb")
+        return;
+    QBitmap covered(size());
+    covered.clear();
+    QPainter painter(&covered);
+    painter.setPen(QPen(Qt::color1, 1.5));
+    painter.setBrush(Qt::color1);
+    painter.drawPath(shape());
+    painter.end();
+    setMask(covered);
+}
+
+/// Straight at the top, where it hangs.
+QPainterPath TSSheet::shape() const
+{
+    const double radius = 2.0 * TSTheme::radius;
+    QPainterPath shape;
+    shape.addRoundedRect(QRectF(rect()).adjusted(0.5, -radius, -0.5, -0.5), radius, radius);
+    return shape;
 }
 
 void TSSheet::place()
@@ -73,19 +176,15 @@ void TSSheet::place()
     const QWidget *window = parentWidget()->window();
     if (m_veil)
         m_veil->setGeometry(window->rect());
-    move(window->mapToGlobal(QPoint((window->width() - width()) / 2, m_topInset)));
+    move(window->mapToGlobal(QPoint((window->width() - width()) / 2, topInset())));
 }
 
 void TSSheet::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    // Straight at the top, where it hangs.
-    const double radius = 2.0 * TSTheme::radius;
-    QPainterPath shape;
-    shape.addRoundedRect(QRectF(rect()).adjusted(0.5, -radius, -0.5, -0.5), radius, radius);
     painter.setPen(QPen(TSTheme::outline(palette()), 1));
     painter.setBrush(palette().color(QPalette::Window));
-    painter.drawPath(shape);
+    painter.drawPath(shape());
     painter.drawLine(QPointF(0, 0.5), QPointF(width(), 0.5));
 }

@@ -310,8 +310,12 @@ int TSStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget
     // A click on the groove goes there, as with the other sliders of a photographer's desk.
     if (hint == SH_Slider_AbsoluteSetButtons)
         return Qt::LeftButton;
+    // In milliseconds; at once, nearly: there is little to read under icons and thumbnails but these.
+    if (hint == SH_ToolTip_WakeUpDelay)
+        return 50;
     // An echo of disabled words in a lighter colour reads as a flaw on dark surfaces.
-    if (hint == SH_EtchDisabledText)
+    // Nor do the toolkit's coloured pictures belong on our buttons.
+    if (hint == SH_EtchDisabledText || hint == SH_DialogButtonBox_ButtonsHaveIcons)
         return 0;
     return QProxyStyle::styleHint(hint, option, widget, returnData);
 }

@@ -169,7 +169,9 @@ QRect TSTokenField::tokenRect(int position) const
     const QRect caret = cursorRect(cursor);
     const TSFieldToken token = TSTokenObject::token(formatAt(position));
     const TSTokenPainter::Look look{token.title, font(), palette(), !token.menu.isEmpty()};
-    return {caret.topLeft(), QSize(qRound(TSTokenPainter::size(look).width()), caret.height())};
+    // Not as high as the line, which without letters lacks what these reach below the base line: the token
+    // would jump with the first of them.
+    return {caret.topLeft(), QSizeF(TSTokenPainter::size(look)).toSize()};
 }
 
 int TSTokenField::tokenAt(const QPoint &point) const

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -21,6 +22,8 @@ namespace {
 // during a resize, which snaps to nothing.
 constexpr double moveGuideDistance = 0.001;
 constexpr double resizeGuideDistance = 0.5;
+/// What the keys size by.
+constexpr int lowerRightNode = 4;
 
 QRectF rectBetween(const QPointF &a, const QPointF &b)
 {
@@ -50,10 +53,10 @@ QRectF boxOnScreen(const TSOverlay &overlay)
     return overlay.convertRectToPreview(overlay.frame());
 }
 
-/// A shift of a pattern, in pitches.
+/// A shift of a pattern, in pitches. One without a size cannot be shifted.
 double shiftedOrigin(double origin, double delta, double pitch)
 {
-    return std::clamp(origin + double(float(delta / pitch)), -1.0, 1.0);
+    return pitch == 0 ? origin : std::clamp(origin + double(float(delta / pitch)), -1.0, 1.0);
 }
 
 } // namespace
@@ -105,7 +108,12 @@ void TSDragging::dragScript(TSText &text)
 {
     m_selection.setEditingText(m_selection.scriptObject());
     m_selection.setEditingOverlay(m_selection.scriptObject());
-    const QPointF delta = localDelta(text);
+    shiftScript(text, localDelta(text));
+    m_gesture.downPoint = m_gesture.curPoint;
+}
+
+void TSDragging::shiftScript(TSText &text, const QPointF &delta)
+{
     const QSizeF &pitch = text.textSizeOfScript();
     text.setScriptOrigin({shiftedOrigin(text.scriptOrigin().x(), delta.x(), pitch.width()),
                           shiftedOrigin(text.scriptOrigin().y(), delta.y(), pitch.height())});
@@ -113,7 +121,6 @@ void TSDragging::dragScript(TSText &text)
     text.updateRenderTextImage();
     m_view.redrawOverlaysView();
     m_view.redrawTrackerView();
-    m_gesture.downPoint = m_gesture.curPoint;
 }
 
 /// How far the mouse went, seen by an overlay that is turned.
@@ -279,7 +286,53 @@ void TSDragging::mouseUp()
         if (m_view.currentCursor() == TSCursor::closedHandCursor)
             m_view.changeCursor(TSCursor::openHandCursor);
     }
+    finishGesture();
+}
+
+void TSDragging::finishGesture()
+{
     m_view.redrawTrackerView();
     TSDataManager::dataManager()->isDragging = false;
     m_selection.setEditingOverlays(false);
+}
+
+void TSDragging::turnSelection(double radians)
+{
+    if (!m_layout.photo() || m_selection.editingOverlaysArray().empty())
+        return;
+    for (const auto &overlay : m_selection.editingOverlaysArray())
+        overlay->setAngle(TSWrappedAngle(overlay->angle() + radians));
+    Q_EMIT TSNotificationCenter::defaultCenter()->TSUpdateRotateAngle();
+    // A Script text has an angle, and a place only in its pattern.
+    if (const auto script = m_selection.scriptObject())
+        shiftScript(*script, {});
+    else
+        finishStep();
+    finishGesture();
+}
+
+void TSDragging::resizeSelection(double points)
+{
+    if (!m_layout.photo() || m_selection.editingOverlaysArray().empty() ||
+        m_selection.isContainScriptObject())
+        return;
+    const int node = std::exchange(m_gesture.draggingNode, lowerRightNode);
+    for (const auto &overlay : m_selection.editingOverlaysArray()) {
+        releasePins(*overlay);
+        resizeOverlay(*overlay, points, 0);
+    }
+    m_gesture.draggingNode = node;
+    finishStep();
+    m_synchronisation.updateOverlaysRenderTextImage();
+    finishGesture();
+}
+
+void TSDragging::shiftPattern(const QPointF &pitches)
+{
+    const auto script = m_selection.scriptObject();
+    if (!m_layout.photo() || !script)
+        return;
+    const QSizeF &pitch = script->textSizeOfScript();
+    shiftScript(*script, {pitches.x() * pitch.width(), pitches.y() * pitch.height()});
+    finishGesture();
 }

@@ -30,6 +30,14 @@ public:
     void mouseDragged(const TSMouseEvent &event);
     void mouseUp();
 
+    // Without a mouse: one step each, told like a step of a drag and its end.
+    /// Each selected overlay about its own middle.
+    void turnSelection(double radians);
+    /// Each selected overlay as by its lower right corner, in points. A Script text has no size to drag.
+    void resizeSelection(double points);
+    /// The pattern of the Script text that is selected, in pitches.
+    void shiftPattern(const QPointF &pitches);
+
     /// Points of the overlay space. The overlay that leads is pulled by what it comes near to.
     void moveOverlay(TSOverlay &overlay, float offsetX, float offsetY);
     /// By the node that is dragged; the deltas are in the overlay's own unturned sense.
@@ -42,10 +50,12 @@ public:
 private:
     void dragMarquee();
     void dragScript(TSText &text);
+    void shiftScript(TSText &text, const QPointF &delta);
     void dragMove();
     void dragResize();
     void dragRotate();
     void finishStep();
+    void finishGesture();
     QPointF localDelta(const TSOverlay &overlay) const;
     template <typename Follow>
     void forEachFollower(Follow follow);

@@ -29,11 +29,23 @@ void TSPreview::observe()
     QObject::connect(center, &Center::TSCirclePositionChanged, &m_listener,
                      [this](const QSizeF &positionRatio) { circlePositionChanged(positionRatio); });
     QObject::connect(center, &Center::TSChangeWatermarkPostion, &m_listener,
-                     [this] { m_offset.changeWatermarkPostion(m_trackerLayer.currentKey()); });
+                     [this] { moveByKey(m_trackerLayer.currentKey()); });
     QObject::connect(center, &Center::TSResizingPhotoView, &m_listener,
                      [this] { m_presenter.resizingPhotoView(); });
     QObject::connect(center, &Center::TSHoverTableViewDeleteKeyDown, &m_listener,
                      [this] { m_creation.deleteEditingOverlay(); });
+}
+
+/// A Script text covers the canvas at any place: of it the pattern moves.
+void TSPreview::moveByKey(int key)
+{
+    constexpr double step = 0.05;
+    if (!m_selection.isContainScriptObject())
+        m_offset.changeWatermarkPostion(key);
+    else if (key == Qt::Key_Left || key == Qt::Key_Right)
+        m_dragging.shiftPattern({key == Qt::Key_Left ? -step : step, 0});
+    else if (key == Qt::Key_Up || key == Qt::Key_Down)
+        m_dragging.shiftPattern({0, key == Qt::Key_Up ? -step : step});
 }
 
 void TSPreview::drawCanvas(QPainter &context) const

@@ -48,6 +48,7 @@ public:
 
 private:
     void observe();
+    void moveByKey(int key);
 
     TSPreviewView &m_view;
     TSTrackerState m_trackerState;

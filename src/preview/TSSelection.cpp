@@ -85,3 +85,42 @@ void TSSelection::selectAllOverlays()
     setEditingOverlays(false);
     m_view.makeFirstResponder(TSResponder::TrackerView);
 }
+
+bool TSSelection::containsIndex(qint64 index) const
+{
+    const auto overlay = TSOverlayManager::overlayManager()->overlayAtIndex(index);
+    return overlay && contains(overlay);
+}
+
+bool TSSelection::isUpEnabled() const
+{
+    const qint64 top = isContainScriptObject() ? TSOverlayManager::overlayManager()->notScriptsCount() : 0;
+    return !m_editingOverlaysArray.empty() && !containsIndex(top);
+}
+
+bool TSSelection::isDownEnabled() const
+{
+    const TSOverlayManager *manager = TSOverlayManager::overlayManager();
+    const qint64 end = isContainScriptObject() ? manager->overlayCount() : manager->notScriptsCount();
+    return !m_editingOverlaysArray.empty() && !containsIndex(end - 1);
+}
+
+void TSSelection::up()
+{
+    TSOverlayManager::overlayManager()->upOverlay(m_editingOverlaysArray);
+    orderDidChange();
+}
+
+void TSSelection::down()
+{
+    TSOverlayManager::overlayManager()->downOverlay(m_editingOverlaysArray);
+    orderDidChange();
+}
+
+void TSSelection::orderDidChange()
+{
+    TSDataManager::dataManager()->isUpdate = false;
+    m_view.redrawOverlaysView();
+    m_view.redrawTrackerView();
+    Q_EMIT TSNotificationCenter::defaultCenter()->TSUpdateOverlayListViewUI();
+}

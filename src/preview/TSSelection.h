@@ -45,7 +45,16 @@ public:
     void selectOverlay(const std::shared_ptr<TSOverlay> &overlay);
     void selectAllOverlays();
 
+    // The order of the stack. Script texts lie below all others and move among themselves.
+    bool isUpEnabled() const;
+    bool isDownEnabled() const;
+    void up();
+    void down();
+
 private:
+    bool containsIndex(qint64 index) const;
+    void orderDidChange();
+
     TSPreviewView &m_view;
     TSTrackerState &m_trackerState;
     TSOverlaySynchronisation m_synchronisation;

@@ -2,6 +2,7 @@
 
 #include "session/TSDefaults.h"
 
+#include <cstdlib>
 #include <QApplication>
 #include <QDBusConnection>
 #include <QDBusInterface>
@@ -22,7 +23,26 @@ void install(const QLocale &locale, const QString &table, const QString &folder)
         delete translator;
 }
 
+/// The toolkit calls exit() out of the event loop when the display is gone. What is static must not go from
+/// under the threads that still work; an object of the main thread goes before it.
+struct ExitGuard {
+    ~ExitGuard()
+    {
+        if (!working)
+            return;
+        working->abandonExport();
+        std::_Exit(EXIT_FAILURE);
+    }
+    TSMainWindowController *working = nullptr;
+};
+thread_local ExitGuard exitGuard;
+
 } // namespace
+
+TSAppDelegate::~TSAppDelegate()
+{
+    exitGuard.working = nullptr;
+}
 
 bool TSAppDelegate::becomeTheOnlyOne()
 {
@@ -54,7 +74,10 @@ void TSAppDelegate::applicationDidFinishLaunching()
     // The window hides when it is closed; only Quit ends the program.
     QApplication::setQuitOnLastWindowClosed(false);
     m_mainWc = std::make_unique<TSMainWindowController>();
+    exitGuard.working = m_mainWc.get();
     connect(m_mainWc->window().quitAction, &QAction::triggered, qApp, &QApplication::quit);
+    // Not by quit(), which asks every window, and the sheet of an export would ask the user.
+    connect(&m_quitSignals, &TSQuitSignals::quitWasAsked, qApp, [] { QApplication::exit(); });
     m_mainWc->window().show();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/TSMainWindowController.h"
+#include "shell/TSQuitSignals.h"
 
 #include <memory>
 #include <QObject>
@@ -12,6 +13,8 @@ class TSAppDelegate : public QObject {
     Q_CLASSINFO("D-Bus Interface", "org.tessaro.Tessaro")
 
 public:
+    ~TSAppDelegate() override;
+
     /// False when another process of the user is there already, and has been told.
     bool becomeTheOnlyOne();
     void applicationDidFinishLaunching();
@@ -24,4 +27,5 @@ public Q_SLOTS:
 
 private:
     std::unique_ptr<TSMainWindowController> m_mainWc;
+    TSQuitSignals m_quitSignals;
 };

@@ -10,6 +10,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
@@ -21,12 +22,25 @@ namespace {
 
 constexpr QSize leastSize(1024, 680);
 constexpr QSize firstSize(1280, 820);
-/// The order of the zooms in the menu is that of the list.
-constexpr size_t separatorItem = 9;
-constexpr size_t fitItem = 10;
+constexpr size_t fitItem = 0;
+constexpr size_t separatorItem = 1;
+constexpr size_t firstZoomItem = 2;
 /// Characters that the word for "Fit" may have in a language.
 constexpr int longestZoom = 9;
-constexpr const char *zooms[] = {"25%", "50%", "75%", "100%", "125%", "150%", "200%", "300%", "400%"};
+constexpr std::pair<const char *, const char *> zooms[] = {
+    {"itemOne", "25%"},    {"itemTwo", "50%"},    {"itemThree", "75%"},
+    {"itemFour", "100%"},  {"itemFive", "125%"},  {"itemSix", "150%"},
+    {"itemSeven", "200%"}, {"itemEight", "300%"}, {"itemNine", "400%"}};
+
+/// Where a pane is to stand beside the preview. A place without a pane takes no room.
+QWidget *newPlace(const char *name, QWidget *parent)
+{
+    auto *place = new QWidget(parent);
+    place->setObjectName(QLatin1String(name));
+    place->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    place->hide();
+    return place;
+}
 
 QLabel *newTip(const char *name, QWidget *parent)
 {
@@ -77,8 +91,8 @@ void TSMainWindow::makePhotoMenu()
     menu->addAction(exportPhotos =
                         newAction("exportPhotos", qtTrId("MenuExport"), QKeySequence(Qt::CTRL | Qt::Key_E)));
     menu->addSeparator();
-    menu->addAction(preferencesAction =
-                        newAction("preferencesAction", qtTrId("MenuPreferences"), QKeySequence::Preferences));
+    menu->addAction(preferencesAction = newAction("preferencesAction", qtTrId("MenuPreferences"),
+                                                  QKeySequence(Qt::CTRL | Qt::Key_Comma)));
     preferencesAction->setMenuRole(QAction::PreferencesRole);
     menu->addAction(quitAction = newAction("quitAction", qtTrId("MenuQuit"), QKeySequence::Quit));
     quitAction->setMenuRole(QAction::QuitRole);
@@ -88,7 +102,8 @@ void TSMainWindow::makeEditMenu()
 {
     QMenu *menu = menuBar()->addMenu(qtTrId("MenuEdit"));
     menu->addAction(selectAll = newAction("selectAll", qtTrId("MenuSelectAll"), QKeySequence::SelectAll));
-    menu->addAction(deleteOverlay = newAction("deleteOverlay", qtTrId("MenuDelete")));
+    menu->addAction(deleteOverlay = newAction("deleteOverlay", qtTrId("MenuDelete"), QKeySequence::Delete));
+    deleteOverlay->setShortcutContext(Qt::WidgetShortcut);
 }
 
 void TSMainWindow::makeWatermarkMenu()
@@ -99,25 +114,35 @@ void TSMainWindow::makeWatermarkMenu()
     menu->addAction(addStickerAction = newAction("addStickerAction", qtTrId("MenuAddImage"),
                                                  QKeySequence(Qt::CTRL | Qt::Key_I)));
     menu->addSeparator();
+    addManipulations(*menu);
+    menu->addSeparator();
     menu->addAction(openProfileAction = newAction("openProfileAction", qtTrId("MenuApplyLayout"),
                                                   QKeySequence(Qt::CTRL | Qt::Key_L)));
     menu->addAction(openSaveProfile =
                         newAction("openSaveProfile", qtTrId("MenuSaveLayout"), QKeySequence::Save));
 }
 
+/// The keys of these are the preview's, which takes them with Shift too; other fields move their caret by
+/// them.
+void TSMainWindow::addManipulations(QMenu &menu)
+{
+    upOverlay = newAction("upOverlay", qtTrId("MenuUp"), QKeySequence(Qt::CTRL | Qt::Key_PageUp));
+    downOverlay = newAction("downOverlay", qtTrId("MenuDown"), QKeySequence(Qt::CTRL | Qt::Key_PageDown));
+    turnLeft = newAction("turnLeft", qtTrId("MenuTurnLeft"), QKeySequence(Qt::CTRL | Qt::Key_Left));
+    turnRight = newAction("turnRight", qtTrId("MenuTurnRight"), QKeySequence(Qt::CTRL | Qt::Key_Right));
+    makeLarger = newAction("makeLarger", qtTrId("MenuLarger"), QKeySequence(Qt::CTRL | Qt::Key_Up));
+    makeSmaller = newAction("makeSmaller", qtTrId("MenuSmaller"), QKeySequence(Qt::CTRL | Qt::Key_Down));
+    for (QAction *action : {turnLeft, turnRight, makeLarger, makeSmaller})
+        action->setShortcutContext(Qt::WidgetShortcut);
+    menu.addActions({upOverlay, downOverlay});
+    menu.addSeparator();
+    menu.addActions({turnLeft, turnRight, makeLarger, makeSmaller});
+}
+
 void TSMainWindow::makeViewMenu()
 {
     QMenu *menu = menuBar()->addMenu(qtTrId("MenuView"));
-    QMenu *zoom = menu->addMenu(qtTrId("MenuZoom"));
-    for (size_t item = 0; item < separatorItem; ++item) {
-        menuItems[item] = newAction("zoomingTheSize", QLatin1String(zooms[item]));
-        menuItems[item]->setCheckable(true);
-        zoom->addAction(menuItems[item]);
-    }
-    menuItems[separatorItem] = zoom->addSeparator();
-    menuItems[fitItem] = newAction("itemFit", qtTrId("Fit"), QKeySequence(Qt::CTRL | Qt::Key_0));
-    menuItems[fitItem]->setCheckable(true);
-    zoom->addAction(menuItems[fitItem]);
+    makeZoomMenu(*menu->addMenu(qtTrId("MenuZoom")));
     menu->addSeparator();
     menu->addAction(itemAutoSnap = newAction("itemAutoSnap", qtTrId("MenuSnap")));
     menu->addAction(itemAutoSnapToPhoto = newAction("itemAutoSnapToPhoto", qtTrId("MenuSnapToPhoto")));
@@ -125,6 +150,22 @@ void TSMainWindow::makeViewMenu()
     for (QAction *action : {itemAutoSnap, itemAutoSnapToPhoto, itemAutoSnapToObjects})
         action->setCheckable(true);
     menu->addAction(itemAuxiliaryLine = newAction("itemAuxiliaryLine", {}));
+}
+
+void TSMainWindow::makeZoomMenu(QMenu &zoom)
+{
+    menuItems[fitItem] = newAction("itemFit", qtTrId("Fit"), QKeySequence(Qt::CTRL | Qt::Key_0));
+    zoom.addAction(menuItems[fitItem]);
+    menuItems[separatorItem] = zoom.addSeparator();
+    menuItems[separatorItem]->setObjectName(QStringLiteral("itemSeparator"));
+    size_t item = firstZoomItem;
+    for (const auto &[name, title] : zooms)
+        zoom.addAction(menuItems[item++] = newAction(name, QLatin1String(title)));
+    for (QAction *action : menuItems)
+        action->setCheckable(!action->isSeparator());
+    zoom.addSeparator();
+    zoom.addAction(zoomIn = newAction("zoomIn", qtTrId("MenuZoomIn"), QKeySequence::ZoomIn));
+    zoom.addAction(zoomOut = newAction("zoomOut", qtTrId("MenuZoomOut"), QKeySequence::ZoomOut));
 }
 
 void TSMainWindow::makeToolbar()
@@ -156,7 +197,18 @@ void TSMainWindow::makeToolbar()
     pubZooming->setMinimumContentsLength(longestZoom);
     bar->addWidget(pubZooming);
     bar->addAction(exportPhotos);
+    nameButtons(*bar);
     tintIcons();
+}
+
+void TSMainWindow::nameButtons(const QToolBar &bar)
+{
+    const std::pair<QAction *, const char *> names[] = {
+        {loadPhotoAction, "tbiAddPhotos"}, {addTextAction, "tbiText"},
+        {addStickerAction, "tbiSticker"},  {openProfileAction, "tbiManagerWatermarks"},
+        {openSaveProfile, "tbiLayout"},    {exportPhotos, "tbiSave"}};
+    for (const auto &[action, name] : names)
+        bar.widgetForAction(action)->setObjectName(QLatin1String(name));
 }
 
 void TSMainWindow::tintIcons()
@@ -190,13 +242,19 @@ QWidget *TSMainWindow::newContent()
     auto *tips = new QHBoxLayout;
     tips->setContentsMargins(TSTheme::margin, TSTheme::spacing / 2, TSTheme::margin, TSTheme::spacing / 2);
     tips->addStretch();
-    tips->addWidget(OutputTipLabel);
-    tips->addWidget(outputTipSizeLabel);
+    // The bar between them is of another font, and taller.
+    tips->addWidget(OutputTipLabel, 0, Qt::AlignBottom);
+    tips->addWidget(outputTipSizeLabel, 0, Qt::AlignBottom);
     tips->addStretch();
     auto *column = new QVBoxLayout(content);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(preview, 1);
+    auto *middle = new QHBoxLayout;
+    middle->setSpacing(0);
+    middle->addWidget(newPlace("overlayListView", content));
+    middle->addWidget(preview, 1);
+    middle->addWidget(newPlace("tvSettings", content));
+    column->addLayout(middle, 1);
     column->addLayout(tips);
     column->addWidget(photoStrip);
     return content;

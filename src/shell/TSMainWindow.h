@@ -7,6 +7,7 @@ class QComboBox;
 class QLabel;
 class QPushButton;
 class QStackedWidget;
+class QToolBar;
 class TSPhotoStripView;
 class TSPreviewScrollView;
 class TSSegmentedControl;
@@ -31,11 +32,19 @@ public:
     QAction *addStickerAction = nullptr;
     QAction *openProfileAction = nullptr;
     QAction *openSaveProfile = nullptr;
+    QAction *upOverlay = nullptr;
+    QAction *downOverlay = nullptr;
+    QAction *turnLeft = nullptr;
+    QAction *turnRight = nullptr;
+    QAction *makeLarger = nullptr;
+    QAction *makeSmaller = nullptr;
+    QAction *zoomIn = nullptr;
+    QAction *zoomOut = nullptr;
     QAction *itemAutoSnap = nullptr;
     QAction *itemAutoSnapToPhoto = nullptr;
     QAction *itemAutoSnapToObjects = nullptr;
     QAction *itemAuxiliaryLine = nullptr;
-    /// Nine fixed zooms, a separator and "Fit", as the zoom list has check marks for them.
+    /// As in the zoom list, whose check marks go by position: "Fit", a separator, nine fixed zooms.
     std::array<QAction *, 11> menuItems{};
 
     TSSegmentedControl *scBatchAdjust = nullptr;
@@ -66,8 +75,11 @@ private:
     void makePhotoMenu();
     void makeEditMenu();
     void makeWatermarkMenu();
+    void addManipulations(QMenu &menu);
     void makeViewMenu();
+    void makeZoomMenu(QMenu &zoom);
     void makeToolbar();
+    void nameButtons(const QToolBar &bar);
     void tintIcons();
     QWidget *newContent();
     QWidget *newStartView();

@@ -1,33 +1,30 @@
 #include "shell/TSMainWindowController.h"
 
 #include "controls/TSCheckBoxAlert.h"
+#include "controls/TSIcon.h"
 #include "controls/TSSegmentedControl.h"
+#include "controls/TSTheme.h"
 #include "overlays/TSOverlayManager.h"
 #include "platform/UserDefaults.h"
+#include "preview/TSPhotoDrop.h"
 #include "session/TSDataManager.h"
 #include "session/TSDefaults.h"
 #include "session/TSNotificationCenter.h"
 #include "session/TSPhoto.h"
 #include "session/TSPhotoManager.h"
+#include "shell/TSProcessingSheet.h"
 #include "ui/photos/TSPhotoStripView.h"
 #include "ui/preview/TSPreviewScrollView.h"
 
 #include <cmath>
 #include <QComboBox>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QLabel>
 #include <QListView>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QTimer>
 
 namespace {
-
-/// As many as a message can hold and still be read.
-constexpr qsizetype longestList = 8;
-constexpr int titleWidth = 420;
-constexpr const char *auxiliaryLineKey = "WatermarkAuxiliaryLine";
 
 /// What the decoders read, by the usual extensions in either case; everything else is a choice away, since
 /// files are taken by their contents.
@@ -42,6 +39,18 @@ QString photoFilter()
     return QStringLiteral("%1 (%2);;%3 (*)").arg(qtTrId("Photos"), patterns.join(u' '), qtTrId("AllFiles"));
 }
 
+/// In the list of zooms.
+constexpr int fitRow = 1;
+
+QStringList localPaths(const QList<QUrl> &urls)
+{
+    QStringList paths;
+    for (const QUrl &url : urls)
+        if (url.isLocalFile())
+            paths.append(url.toLocalFile());
+    return paths;
+}
+
 TSDataManager *session()
 {
     return TSDataManager::dataManager();
@@ -49,15 +58,20 @@ TSDataManager *session()
 
 } // namespace
 
-TSMainWindowController::TSMainWindowController() : m_window(std::make_unique<TSMainWindow>())
+TSMainWindowController::TSMainWindowController()
+    : m_window(std::make_unique<TSMainWindow>()), m_actions(*m_window)
 {
     using namespace std::chrono_literals;
     m_window->showStartView(true);
-    connect(m_window.get(), &TSMainWindow::windowShouldClose, m_window.get(), &QWidget::hide);
+    connect(m_window.get(), &TSMainWindow::windowShouldClose, this, [this] {
+        m_window->hide();
+        if (m_preferences)
+            m_preferences->hide();
+    });
     connect(m_window.get(), &TSMainWindow::filesDropped, this, &TSMainWindowController::addPhotos);
     connect(m_window->startButton, &QPushButton::clicked, this, &TSMainWindowController::loadPhotoAction);
     updateScBatchAdjust();
-    validateActions();
+    m_actions.validate();
     QTimer::singleShot(500ms, this, &TSMainWindowController::updateUIAndData);
 }
 
@@ -66,6 +80,12 @@ TSMainWindowController::~TSMainWindowController()
     // Threads that work on the session end before what they tell of it goes.
     m_photoIntake.reset();
     m_cacheFiller.reset();
+}
+
+void TSMainWindowController::abandonExport()
+{
+    if (m_export)
+        m_export->abandonRun();
 }
 
 TSPreview &TSMainWindowController::preview()
@@ -80,7 +100,7 @@ void TSMainWindowController::updateUIAndData()
     initActions();
     initZoomList();
     initObserver();
-    validateActions();
+    m_actions.validate();
     if (!m_waitingPhotos.isEmpty())
         addPhotos(std::exchange(m_waitingPhotos, {}));
 }
@@ -93,6 +113,9 @@ void TSMainWindowController::initListView()
                                                             static_cast<TSPhotoListEditorHost &>(*this));
     m_photoIntake = std::make_unique<TSPhotoIntakeController>(TSOverlayManager::overlayManager(), strip,
                                                               static_cast<TSPhotoIntakeHost &>(*this));
+    m_processingWindow = new TSProcessingSheet(m_window.get());
+    connect(m_processingWindow, &TSProcessingSheet::processWasCancelled, this,
+            [this] { m_photoIntake->cancelProcessAction(); });
     connect(&strip, &TSPhotoStripView::startViewShouldUpdate, this, &TSMainWindowController::updateStartView);
     connect(&strip, &TSPhotoStripView::cacheImagesWasCancelled, m_cacheFiller.get(),
             &TSCacheFiller::cancelCacheImages);
@@ -112,7 +135,9 @@ void TSMainWindowController::initListView()
         m_window->photoStrip->setSelectionIndex(from < to ? to - 1 : to);
     });
     connect(list, &TSImageBrowserView::filesDropped, this, [this](const QList<QUrl> &urls, int index) {
-        m_photoIntake->addPhotosFromBrowserViewDragging(urls, index);
+        // Without a single picture among them nothing is dropped here.
+        if (TSPhotoDrop::prepareForDragOperation(localPaths(urls)))
+            m_photoIntake->addPhotosFromBrowserViewDragging(urls, index);
     });
 }
 
@@ -138,12 +163,7 @@ void TSMainWindowController::initActions()
     connect(window.removeAllPhotosAction, &QAction::triggered, this,
             [this] { m_photoListEditor->removeAllPhotosAction(); });
     connect(window.exportPhotos, &QAction::triggered, this, [this] { m_export->exportPhotos(); });
-    connect(window.selectAll, &QAction::triggered, this,
-            [this] { preview().selection().selectAllOverlays(); });
-    connect(window.deleteOverlay, &QAction::triggered, this,
-            [this] { preview().creation().deleteEditingOverlay(); });
-    connect(window.addTextAction, &QAction::triggered, this,
-            [this] { preview().creation().createNewText(); });
+    m_actions.bind();
     connect(window.addStickerAction, &QAction::triggered, this,
             &TSMainWindowController::addStickerFromFinder);
     connect(window.openProfileAction, &QAction::triggered, this, [this] { m_layouts->openProfileAction(); });
@@ -153,19 +173,6 @@ void TSMainWindowController::initActions()
     connect(m_layouts.get(), &TSLayoutController::profileDidApply, this,
             &TSMainWindowController::updateScBatchAdjust);
     connect(window.preferencesAction, &QAction::triggered, this, &TSMainWindowController::preferencesAction);
-    bindSnapping(window.itemAutoSnap, "WatermarkAutoSnap");
-    bindSnapping(window.itemAutoSnapToPhoto, "WatermarkAutoSnapToPhoto");
-    bindSnapping(window.itemAutoSnapToObjects, "WatermarkAutoSnapToObjects");
-    connect(window.itemAuxiliaryLine, &QAction::triggered, this, &TSMainWindowController::auxiliaryLine);
-    updateAuxiliaryLineTitle();
-}
-
-void TSMainWindowController::bindSnapping(QAction *action, const char *key)
-{
-    const QString name = QLatin1String(key);
-    action->setChecked(platform::UserDefaults::standard().boolForKey(name));
-    connect(action, &QAction::toggled, this,
-            [name](bool isOn) { platform::UserDefaults::standard().setBool(name, isOn); });
 }
 
 void TSMainWindowController::preferencesAction()
@@ -177,22 +184,6 @@ void TSMainWindowController::preferencesAction()
     }
     m_preferences->show();
     m_preferences->raise();
-}
-
-void TSMainWindowController::auxiliaryLine()
-{
-    platform::UserDefaults &defaults = platform::UserDefaults::standard();
-    const QString key = QLatin1String(auxiliaryLineKey);
-    defaults.setBool(key, !defaults.boolForKey(key));
-    updateAuxiliaryLineTitle();
-    m_window->preview->viewport()->update();
-}
-
-void TSMainWindowController::updateAuxiliaryLineTitle()
-{
-    const bool isShown = platform::UserDefaults::standard().boolForKey(QLatin1String(auxiliaryLineKey));
-    m_window->itemAuxiliaryLine->setText(isShown ? QStringLiteral("Hide Auxiliary Line")
-                                                 : QStringLiteral("Show Auxiliary Line"));
 }
 
 void TSMainWindowController::initZoomList()
@@ -217,10 +208,8 @@ void TSMainWindowController::initZoomList()
 void TSMainWindowController::initObserver()
 {
     const TSNotificationCenter *center = TSNotificationCenter::defaultCenter();
-    connect(center, &TSNotificationCenter::TSDraggingPhotosEnd, this, &TSMainWindowController::addPhotos);
     connect(center, &TSNotificationCenter::TSOutputSizeOrNameChanged, this,
             &TSMainWindowController::outputSizeOrNameChanged);
-    connect(center, &TSNotificationCenter::overlaysChanged, this, &TSMainWindowController::validateActions);
 }
 
 void TSMainWindowController::addPhotos(const QList<QUrl> &urls)
@@ -273,9 +262,10 @@ void TSMainWindowController::outputSizeOrNameChanged()
         selection.empty() ? nullptr : TSPhotoManager::photoManager()->photoAtIndex(*selection.begin());
     if (!photo)
         return;
-    const QString name = session()->exportNames.value(photo->index);
-    m_window->OutputTipLabel->setText(
-        QStringLiteral("Output Name : %1.%2").arg(name, session()->exportFormat));
+    QString name = session()->exportNames.value(photo->index);
+    if (!name.isEmpty())
+        name += u'.' + session()->exportFormat;
+    m_window->OutputTipLabel->setText(QStringLiteral("Output Name : ") + name);
     m_window->outputTipSizeLabel->setText(QStringLiteral("｜  Output Size : %1 x %2 pixel")
                                               .arg(std::lround(photo->photoOutputSize.width()))
                                               .arg(std::lround(photo->photoOutputSize.height())));
@@ -286,9 +276,16 @@ void TSMainWindowController::showZoomList()
     TSZoomList &zooms = preview().zoomList();
     m_window->pubZooming->setItemText(0, zooms.title());
     m_window->pubZooming->setCurrentIndex(0);
+    QPixmap noMark(TSTheme::iconSize, TSTheme::iconSize);
+    noMark.fill(Qt::transparent);
+    for (int row = fitRow; row < m_window->pubZooming->count(); ++row)
+        m_window->pubZooming->setItemIcon(row, row == fitRow && zooms.isFitMarked()
+                                                   ? TSIcon::icon(TSIconName::Check, m_window->palette())
+                                                   : QIcon(noMark));
+    const bool hasPhotos = session()->photoCount() > 0;
     for (size_t item = 0; item < m_window->menuItems.size(); ++item)
-        m_window->menuItems[item]->setChecked(zooms.menuItems()[item]);
-    m_window->menuItems.back()->setChecked(zooms.isFitMarked());
+        m_window->menuItems[item]->setChecked(hasPhotos && zooms.menuItems()[item] && !zooms.isFitMarked());
+    m_window->menuItems.front()->setChecked(hasPhotos && zooms.isFitMarked());
 }
 
 void TSMainWindowController::zoomingTheSize(int row)
@@ -303,30 +300,12 @@ void TSMainWindowController::updateStartView()
     const bool isEmpty = session()->photoCount() == 0;
     m_window->pubZooming->setEnabled(!isEmpty);
     m_window->showStartView(isEmpty);
-    validateActions();
+    m_actions.validate();
 }
 
 void TSMainWindowController::updateScBatchAdjust()
 {
     m_window->scBatchAdjust->setSelected(TSIsBatchControlOverlay() ? 0 : 1);
-}
-
-void TSMainWindowController::validateActions()
-{
-    const bool hasPhotos = session()->photoCount() > 0;
-    const bool hasOverlays = TSOverlayManager::overlayManager()->overlayCount() > 0;
-    const TSMainWindow &window = *m_window;
-    for (QAction *action : {window.exportPhotos, window.addTextAction, window.addStickerAction,
-                            window.openProfileAction, window.removePhotoAction, window.removeAllPhotosAction})
-        action->setEnabled(hasPhotos);
-    window.scBatchAdjust->setEnabled(hasPhotos);
-    window.pubZooming->setEnabled(hasPhotos);
-    for (QAction *action : window.menuItems)
-        action->setEnabled(hasPhotos);
-    window.openSaveProfile->setEnabled(hasPhotos && hasOverlays);
-    window.selectAll->setEnabled(hasOverlays);
-    window.deleteOverlay->setEnabled(
-        !m_window->preview->preview().selection().editingOverlaysArray().empty());
 }
 
 bool TSMainWindowController::confirm(const QString &message, const QString &informative)
@@ -361,48 +340,30 @@ void TSMainWindowController::clearEditingOverlay()
 
 void TSMainWindowController::showProcessingView(bool isShown, const QString &title, bool canCancel)
 {
-    if (!isShown) {
-        delete m_processingWindow;
-        // The intake goes on with the strip before the user is told.
-        QMetaObject::invokeMethod(this, &TSMainWindowController::tellRefusals, Qt::QueuedConnection);
+    if (isShown) {
+        m_processingWindow->begin(title, canCancel);
         return;
     }
-    if (m_processingWindow)
-        return;
-    m_processingWindow =
-        new QProgressDialog(title, canCancel ? qtTrId("Cancel") : QString(), 0, 0, m_window.get());
-    m_processingWindow->setWindowModality(Qt::WindowModal);
-    m_processingWindow->setMinimumDuration(0);
-    m_processingWindow->setMinimumWidth(titleWidth + 40);
-    connect(m_processingWindow, &QProgressDialog::canceled, this,
-            [this] { m_photoIntake->cancelProcessAction(); });
-    m_processingWindow->show();
+    m_processingWindow->end();
+    // The intake goes on with the strip before the user is told.
+    QMetaObject::invokeMethod(this, &TSMainWindowController::tellRefusals, Qt::QueuedConnection);
 }
 
-/// Faster than anybody reads; the intake waits for each of these.
 void TSMainWindowController::setProcessTitle(const QString &title)
 {
-    constexpr qint64 readable = 60;
-    if (!m_processingWindow || (m_titleTimer.isValid() && m_titleTimer.elapsed() < readable))
-        return;
-    m_titleTimer.start();
-    m_processingWindow->setLabelText(
-        m_processingWindow->fontMetrics().elidedText(title, Qt::ElideMiddle, titleWidth));
+    m_processingWindow->setTitle(title);
 }
 
 /// Repeated files have a message of their own.
 void TSMainWindowController::fileWasRefused(const QString &path, const QString &reason)
 {
     if (!session()->isHasItem(path))
-        m_refusals.append(QStringLiteral("%1: %2").arg(QFileInfo(path).fileName(), reason));
+        m_processingWindow->addRefusal(path, reason);
 }
 
 void TSMainWindowController::tellRefusals()
 {
-    if (m_refusals.isEmpty())
-        return;
-    const QStringList refusals = std::exchange(m_refusals, {});
-    const QStringList shown = refusals.mid(0, longestList);
-    const QString rest = refusals.size() > longestList ? QStringLiteral("\n…") : QString();
-    showAlert(qtTrId("FilesRefused").arg(refusals.size()), shown.join(u'\n') + rest);
+    const qsizetype count = m_processingWindow->refusalCount();
+    if (count > 0)
+        showAlert(qtTrId("FilesRefused").arg(count), m_processingWindow->takeRefusals());
 }

@@ -8,13 +8,13 @@
 #include "shell/TSLayoutController.h"
 #include "shell/TSMainWindow.h"
 #include "shell/TSPreferencesWindowController.h"
+#include "shell/TSWindowActions.h"
 #include "ui/export/TSExportController.h"
 
 #include <memory>
-#include <QElapsedTimer>
 #include <QPointer>
 
-class QProgressDialog;
+class TSProcessingSheet;
 
 /// The centre of the user's actions: ties the window to the intake, the photo list, the preview, the layouts
 /// and the export. Main thread.
@@ -29,6 +29,8 @@ public:
     TSMainWindow &window() { return *m_window; }
     /// Takes photos in as the file panel does.
     void addPhotos(const QList<QUrl> &urls);
+    /// For an end in which no window can be used any more: the photo under way is not written.
+    void abandonExport();
 
 private:
     void updateUIAndData();
@@ -47,11 +49,7 @@ private:
     void zoomingTheSize(int row);
     void updateStartView();
     void updateScBatchAdjust();
-    void validateActions();
     void preferencesAction();
-    void auxiliaryLine();
-    void updateAuxiliaryLineTitle();
-    void bindSnapping(QAction *action, const char *key);
 
     bool confirm(const QString &message, const QString &informative) override;
     void showAlert(const QString &message, const QString &informative) override;
@@ -70,15 +68,13 @@ private:
     TSPreview &preview();
 
     std::unique_ptr<TSMainWindow> m_window;
+    TSWindowActions m_actions;
     std::unique_ptr<TSCacheFiller> m_cacheFiller;
     std::unique_ptr<TSPhotoListEditor> m_photoListEditor;
     std::unique_ptr<TSPhotoIntakeController> m_photoIntake;
     std::unique_ptr<TSLayoutController> m_layouts;
     std::unique_ptr<TSExportController> m_export;
     QPointer<TSPreferencesWindowController> m_preferences;
-    QPointer<QProgressDialog> m_processingWindow;
-    QElapsedTimer m_titleTimer;
+    QPointer<TSProcessingSheet> m_processingWindow;
     QList<QUrl> m_waitingPhotos;
-    /// Of the intake under way: each file that gave no photo, with its reason.
-    QStringList m_refusals;
 };

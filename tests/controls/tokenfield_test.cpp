@@ -172,4 +172,10 @@ TEST_F(TokenFieldTest, KeepsLettersOnOneLineWithTokens)
     };
     EXPECT_EQ(heightOf({QStringLiteral("Text")}), heightOf({token("Name"), QStringLiteral("Text")}));
     EXPECT_LE(field.document()->size().height(), field.viewport()->height());
+    // A token stands where it stands, whatever follows it.
+    const auto pictureOfToken = [&](const TSFieldParts &parts) {
+        field.setParts(parts);
+        return field.grab({0, 0, 40, field.height()}).toImage();
+    };
+    EXPECT_EQ(pictureOfToken({token("Name")}), pictureOfToken({token("Name"), QStringLiteral("g")}));
 }

@@ -4,9 +4,11 @@
 #include <gtest/gtest.h>
 #include <QApplication>
 #include <QCheckBox>
+#include <QMainWindow>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolBar>
 #include <QVBoxLayout>
 
 namespace {
@@ -15,6 +17,8 @@ class WindowsTest : public testing::Test {
 protected:
     WindowsTest()
     {
+        window.setCentralWidget(new QWidget);
+        window.addToolBar(QString())->setFixedHeight(50);
         window.setGeometry(40, 30, 600, 400);
         window.show();
         QApplication::processEvents();
@@ -30,7 +34,7 @@ protected:
         return alert;
     }
 
-    QWidget window;
+    QMainWindow window;
 };
 
 } // namespace
@@ -38,7 +42,6 @@ protected:
 TEST_F(WindowsTest, ASheetHangsFromItsWindowAndGoesWithIt)
 {
     TSSheet sheet(&window);
-    sheet.setTopInset(50);
     sheet.resize(300, 100);
     sheet.open();
     EXPECT_TRUE(sheet.isModal());

@@ -7,15 +7,23 @@
 #include "ui/photos/TSPhotoStripView.h"
 #include "ui/preview/TSPreviewScrollView.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
+#include <QDeadlineTimer>
 #include <QDialog>
+#include <QDropEvent>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMimeData>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
+#include <QTranslator>
+#include <unistd.h>
 
 namespace {
 
@@ -99,6 +107,48 @@ protected:
 
     std::unique_ptr<TSMainWindowController> controller;
 };
+
+/// The words of a language, while it lives.
+class Language {
+public:
+    explicit Language(const char *code)
+    {
+        EXPECT_TRUE(m_table.load(QStringLiteral(":/translations/tessaro_%1.qm").arg(QLatin1String(code))));
+        QApplication::installTranslator(&m_table);
+    }
+
+private:
+    QTranslator m_table;
+};
+
+/// Says yes to every alert, and keeps what it told.
+class AlertCloser {
+public:
+    AlertCloser()
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, [this] {
+            if (auto *alert = qobject_cast<TSCheckBoxAlert *>(QApplication::activeModalWidget())) {
+                told.append(alert->findChild<QLabel *>("informativeText")->text());
+                alert->done(TSCheckBoxAlert::DefaultReturn);
+            }
+        });
+        m_timer.start(20);
+    }
+    QStringList told;
+
+private:
+    QTimer m_timer;
+};
+
+void drop(QWidget &target, const QList<QUrl> &urls, const QPoint &place)
+{
+    QMimeData data;
+    data.setUrls(urls);
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&target, &enter);
+    QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&target, &event);
+}
 
 void expectWithinAPixel(const QRect &found, const QRectF &expected)
 {
@@ -185,12 +235,37 @@ TEST_F(MainWindowTest, ZoomAndWindowKeepTheMarkOnThePhoto)
         window().pubZooming->setCurrentText(zoom);
         Q_EMIT window().pubZooming->activated(window().pubZooming->currentIndex());
         expectRect(placeInOutput(*mark).toRect(), place.toRect());
+        for (const QAction *item : window().menuItems)
+            EXPECT_EQ(item->isChecked(), item->text() == QLatin1String(zoom)) << zoom;
     }
     EXPECT_EQ(session.data.sizeMode, TSSizeMode::Fit);
     window().resize(1100, 700);
     QTest::qWait(50);
     expectRect(placeInOutput(*mark).toRect(), place.toRect());
     EXPECT_LT(session.data.canvasFrame.bottom(), window().preview->viewport()->height());
+}
+
+/// A stem that is enlarged from fewer pixels rises over several.
+TEST_F(MainWindowTest, TextHasThePixelsOfTheScreen)
+{
+    addPhotos({session.writePng("a.png", plainImage({900, 600}, Qt::black))});
+    preview().creation().createNewText();
+    const auto text = std::dynamic_pointer_cast<TSText>(session.overlays.overlayAtIndex(0));
+    text->setOpacity(1);
+    preview().selection().selectOverlay(nullptr);
+    const QImage shown = window().preview->viewport()->grab().toImage();
+    const QRectF frame(text->frame().topLeft() * shown.devicePixelRatio(),
+                       text->frame().size() * shown.devicePixelRatio());
+    const QImage letters = shown.copy(frame.toAlignedRect());
+    int brightest = 0, steepest = 0;
+    for (int y = 0; y < letters.height(); ++y)
+        for (int x = 1; x < letters.width(); ++x) {
+            const int here = qGray(letters.pixel(x, y)), before = qGray(letters.pixel(x - 1, y));
+            brightest = std::max(brightest, here);
+            steepest = std::max(steepest, std::abs(here - before));
+        }
+    EXPECT_GT(brightest, 200);
+    EXPECT_GT(steepest, 0.8 * brightest);
 }
 
 TEST_F(MainWindowTest, MarksAreToldToAssistiveTechnology)
@@ -205,6 +280,9 @@ TEST_F(MainWindowTest, MarksAreToldToAssistiveTechnology)
     ASSERT_EQ(canvas->childCount(), 2);
     QAccessibleInterface *mark = canvas->child(0);
     EXPECT_EQ(mark->text(QAccessible::Name), "my mark");
+    const Language german("de");
+    EXPECT_EQ(mark->text(QAccessible::Description),
+              "Bild-Wasserzeichen, 50 Prozent von links, 50 Prozent von oben");
     EXPECT_EQ(mark->role(), QAccessible::Graphic);
     EXPECT_TRUE(mark->state().selected);
     EXPECT_EQ(canvas->child(1)->role(), QAccessible::StaticText);
@@ -213,33 +291,190 @@ TEST_F(MainWindowTest, MarksAreToldToAssistiveTechnology)
     EXPECT_EQ(canvas->childAt(middle.x(), middle.y()), mark);
     EXPECT_EQ(canvas->indexOfChild(canvas->child(1)), 1);
     // The marks one after the other by Tab, and then on to the next control.
+    QApplication::setActiveWindow(&window());
     window().preview->setFocus();
     QTest::keyClick(window().preview, Qt::Key_Tab);
     EXPECT_TRUE(canvas->child(1)->state().selected);
     EXPECT_FALSE(mark->state().selected);
+    EXPECT_EQ(canvas->focusChild(), canvas->child(1));
     QTest::keyClick(window().preview, Qt::Key_Delete);
     EXPECT_EQ(canvas->childCount(), 1);
+}
+
+/// Everything that the mouse does to marks.
+TEST_F(MainWindowTest, MarksAreWorkedOnByKeysAlone)
+{
+    addPhotos({session.writePng("a.png", plainImage({900, 600}))});
+    preview().creation().addStickerWithPath(session.writePng("mark.png", plainImage({40, 20}, Qt::red)),
+                                            true);
+    const auto mark = session.overlays.overlayAtIndex(0);
+    const QRectF before = mark->frame();
+    const auto key = [this](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
+        QTest::keyClick(window().preview, key, modifiers);
+    };
+    constexpr double degree = 3.14159265358979 / 180;
+    const double step = session.data.canvasFrame.width() / 200;
+    key(Qt::Key_Right);
+    key(Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_NEAR(mark->angle(), 11 * degree, 1e-6);
+    EXPECT_NEAR(mark->angleArray.front(), 11 * degree, 1e-6);
+    for (int turn = 0; turn < 12; ++turn)
+        key(Qt::Key_Left);
+    EXPECT_NEAR(mark->angle(), 359 * degree, 1e-6);
+    mark->setAngle(0);
+    key(Qt::Key_Up, Qt::ControlModifier | Qt::ShiftModifier);
+    key(Qt::Key_Down);
+    expectRect(mark->frame(), {before.topLeft(), before.size() + QSizeF(9 * step, 4.5 * step)});
+    EXPECT_NEAR(mark->ratioOfFrameByAlignmentArray.front().height(),
+                mark->frame().height() / session.data.canvasFrame.height(), 1e-6);
+
+    window().addTextAction->trigger();
+    EXPECT_FALSE(window().upOverlay->isEnabled());
+    window().downOverlay->trigger();
+    EXPECT_EQ(session.overlays.overlayAtIndex(0), mark);
+    EXPECT_TRUE(window().upOverlay->isEnabled());
+    EXPECT_FALSE(window().downOverlay->isEnabled());
+    key(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(preview().selection().editingOverlaysArray().size(), 2);
+
+    // The pattern of a Script text, which has no place and no size.
+    const auto script = std::dynamic_pointer_cast<TSText>(session.overlays.overlayAtIndex(1));
+    script->setTextType(TSTextType::Script);
+    script->updateRenderTextImage();
+    preview().selection().selectOverlay(script);
+    EXPECT_FALSE(window().makeLarger->isEnabled());
+    key(Qt::Key_Left, {});
+    key(Qt::Key_Down, {});
+    expectNear(script->scriptOrigin(), {-0.05, 0.05}, 1e-6);
+    EXPECT_EQ(script->scriptOriginArray.front(), script->scriptOrigin());
+
+    int told = 0;
+    QObject::connect(&session.center, &TSNotificationCenter::TSChangeWatermarkPostion, [&told] { ++told; });
+    key(Qt::Key_X, {});
+    key(Qt::Key_Delete, {});
+    EXPECT_EQ(told, 2);
+    EXPECT_EQ(session.overlays.overlayCount(), 1);
+}
+
+/// A drop is taken in once, at its place, and only with a picture in it.
+TEST_F(MainWindowTest, DropsAreTakenInOnce)
+{
+    const AlertCloser closer;
+    addPhotos({session.writePng("a.png", plainImage({300, 200})),
+               session.writePng("b.png", plainImage({300, 200}))});
+    const auto dropOne = [this](QWidget &target, const QString &path, qint64 expected) {
+        drop(target, {QUrl::fromLocalFile(path)}, {200, 60});
+        EXPECT_TRUE(QTest::qWaitFor([&] { return session.data.photoCount() == expected; }, 5000));
+        QTest::qWait(200);
+    };
+    QWidget &strip = *window().photoStrip->ibvList()->viewport();
+    dropOne(strip, session.folder.path(), 2);
+    dropOne(strip, session.writePng("between.png", plainImage({200, 300})), 3);
+    dropOne(*window().preview->viewport(), session.writePng("last.png", plainImage({200, 200})), 4);
+    EXPECT_EQ(closer.told, QStringList());
+    QStringList names;
+    for (qint64 photo = 0; photo < 4; ++photo)
+        names += QFileInfo(session.data.itemAtIndex(photo)->path).fileName();
+    EXPECT_EQ(names, QStringList({"a.png", "between.png", "b.png", "last.png"}));
+
+    // By the keys, one place back.
+    QTest::keyClick(window().photoStrip->ibvList(), Qt::Key_Left, Qt::ControlModifier);
+    EXPECT_EQ(QFileInfo(session.data.itemAtIndex(2)->path).fileName(), "last.png");
+    EXPECT_EQ(window().photoStrip->selectionIndexes(), std::set<qint64>{2});
 }
 
 /// What gives no photo is named once the others are in.
 TEST_F(MainWindowTest, RefusedFilesAreNamed)
 {
-    QString told;
-    QTimer answer;
-    QObject::connect(&answer, &QTimer::timeout, [&told] {
-        if (auto *alert = qobject_cast<TSCheckBoxAlert *>(QApplication::activeModalWidget())) {
-            told = alert->findChild<QLabel *>("informativeText")->text();
-            alert->done(TSCheckBoxAlert::DefaultReturn);
-        }
-    });
-    answer.start(20);
+    const AlertCloser closer;
+    const Language german("de");
     const QString photo = session.writePng("a.png", plainImage({300, 200}));
     controller->addPhotos({QUrl::fromLocalFile(session.write("b.jpg", "no picture")),
                            QUrl::fromLocalFile(session.folder.path()), QUrl::fromLocalFile(photo)});
-    EXPECT_TRUE(QTest::qWaitFor([&told] { return !told.isEmpty(); }, 10000));
+    EXPECT_TRUE(QTest::qWaitFor([&closer] { return !closer.told.isEmpty(); }, 10000));
     EXPECT_EQ(session.data.photoCount(), 1);
-    EXPECT_TRUE(told.startsWith("b.jpg: The file is not a picture that can be read.\n"));
-    EXPECT_TRUE(told.endsWith("This is a folder, not a photo."));
+    EXPECT_TRUE(closer.told[0].startsWith("b.jpg: Die Datei ist kein lesbares Bild.\n"));
+    EXPECT_TRUE(closer.told[0].endsWith("Das ist ein Ordner, kein Foto."));
+}
+
+TEST_F(MainWindowTest, EveryControlHasAName)
+{
+    const auto isControl = [](const QWidget *widget) {
+        return widget->focusPolicy() != Qt::NoFocus || qobject_cast<const QAbstractButton *>(widget);
+    };
+    const auto isPartOfAnother = [](const QWidget *widget) {
+        return widget->objectName().startsWith(u"qt_") ||
+               qobject_cast<const QComboBox *>(widget->parentWidget()) ||
+               qobject_cast<const QScrollBar *>(widget) ||
+               widget->window()->inherits("QComboBoxPrivateContainer");
+    };
+    for (QWidget *widget : window().findChildren<QWidget *>()) {
+        if (!isControl(widget) || isPartOfAnother(widget) || qobject_cast<QMenu *>(widget) ||
+            qobject_cast<QLabel *>(widget))
+            continue;
+        const QString name = QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+        EXPECT_FALSE(name.isEmpty()) << widget->metaObject()->className() << " "
+                                     << widget->objectName().toStdString();
+        EXPECT_FALSE(widget->objectName().isEmpty())
+            << widget->metaObject()->className() << " " << name.toStdString();
+    }
+}
+
+/// Of every place that takes files, and the window answers meanwhile.
+TEST_F(MainWindowTest, TenThousandPhotosAndAFolderAreDropped)
+{
+    constexpr int count = 10000;
+    const QString picture = session.writePng("picture.png", plainImage({8, 6}));
+    QList<QUrl> urls = {QUrl::fromLocalFile(session.folder.path())};
+    for (int number = 0; number < count; ++number) {
+        const QString path = session.path(QStringLiteral("%1.png").arg(number));
+        ASSERT_EQ(::link(QFile::encodeName(picture).constData(), QFile::encodeName(path).constData()), 0);
+        urls.append(QUrl::fromLocalFile(path));
+    }
+    const AlertCloser closer;
+    int answers = 0;
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, [&answers] { ++answers; });
+    answer.start(1);
+    drop(window(), urls.first(2), {200, 200});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return closer.told.size() == 1; }, 20000));
+    drop(*window().preview->viewport(), urls.mid(2, count / 2), {200, 200});
+    drop(*window().photoStrip->ibvList()->viewport(), urls.mid(2 + count / 2), {200, 60});
+    // Unlike the toolkit's own waiting, which sleeps while the intake asks for this thread.
+    QDeadlineTimer deadline(120000);
+    while (session.data.photoCount() < count && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QApplication::activeModalWidget(); }, 20000));
+    EXPECT_EQ(closer.told.size(), 1) << closer.told.join(u'|').toStdString();
+    EXPECT_TRUE(closer.told[0].endsWith("This is a folder, not a photo."));
+    // Each photo is one turn of the window's, and in between it has others.
+    EXPECT_GT(answers, count / 100);
+}
+
+/// A file that is gone leaves its picture until another photo is chosen; then the strip closes up.
+TEST_F(MainWindowTest, PhotosThatVanishLeaveTheStrip)
+{
+    QStringList paths;
+    for (const char *name : {"a.png", "b.png", "c.png", "d.png"})
+        paths.append(session.writePng(name, plainImage({300, 200})));
+    addPhotos(paths);
+    window().photoStrip->setSelectionIndex(1);
+    const AlertCloser closer;
+    QFile::remove(paths[1]);
+    QFile::remove(paths[3]);
+    window().resize(1100, 700);
+    window().addTextAction->trigger();
+    QTest::qWait(50);
+    EXPECT_EQ(session.data.photoCount(), 4);
+    window().photoStrip->setSelectionIndex(0);
+    EXPECT_EQ(session.data.photoCount(), 2);
+    EXPECT_EQ(closer.told, QStringList("delete no source file image"));
+    EXPECT_EQ(preview().layout().photo()->path, paths[2]);
+    QFile::remove(paths[0]);
+    QFile::remove(paths[2]);
+    window().photoStrip->setSelectionIndex(0);
+    EXPECT_TRUE(window().isStartViewShown());
+    EXPECT_EQ(session.overlays.overlayCount(), 0);
 }
 
 /// The window goes, the program and its photos stay.

@@ -1,6 +1,7 @@
 #include "support/ExportSession.h"
 #include "ui/export/TSExportController.h"
 
+#include <optional>
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
@@ -10,6 +11,7 @@
 #include <QSemaphore>
 #include <QTest>
 #include <QTranslator>
+#include <unistd.h>
 
 namespace {
 
@@ -22,6 +24,16 @@ public:
         letGo.acquire();
     }
     QSemaphore reached, letGo;
+};
+
+/// The process may do no more than a stranger while it lives, as whom a test run by root can be refused.
+class Stranger {
+public:
+    Stranger() { EXPECT_EQ(setresuid(nobody, nobody, getuid()), 0); }
+    ~Stranger() { EXPECT_EQ(setresuid(0, 0, 0), 0); }
+
+private:
+    static constexpr uid_t nobody = 65534;
 };
 
 class ExportRoadTest : public ExportTest {
@@ -179,6 +191,8 @@ TEST_F(ExportRoadTest, ALostFolderIsTold)
     start();
     trap->letGo.release();
     trap->reached.acquire(2);
+    // The first photo may be on its way to the disk while the second one is drawn.
+    ASSERT_TRUE(QTest::qWaitFor([this] { return files() == "a.jpg"; }));
     QDir(out).removeRecursively();
     trap->letGo.release(100);
     ASSERT_TRUE(waitForEnd());
@@ -201,6 +215,24 @@ TEST_F(ExportRoadTest, ALostFolderIsTold)
     EXPECT_EQ(text("informativeText"),
               "2 photos: The folder " + out.toStdString() +
                   " is no longer there.\nb.png: The file of the photo is no longer there.");
+}
+
+TEST_F(ExportRoadTest, AReadOnlyFolderIsTold)
+{
+    QFile::setPermissions(session.folder.path(), QFile::Permissions(0x5555));
+    QFile::setPermissions(out, QFile::Permissions(0x5555));
+    {
+        std::optional<Stranger> stranger;
+        if (geteuid() == 0)
+            stranger.emplace();
+        start();
+        ASSERT_TRUE(waitForEnd());
+        EXPECT_EQ(text("messageText"), "3 photos were not exported");
+        EXPECT_EQ(text("informativeText"),
+                  "3 photos: The folder " + out.toStdString() + " cannot be written to.");
+    }
+    EXPECT_EQ(files(), "");
+    QFile::setPermissions(session.folder.path(), QFile::Permissions(0x7777));
 }
 
 TEST_F(ExportRoadTest, LargeOutputsAreAskedAboutAndCancelIsTheDefault)

@@ -10,7 +10,6 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMainWindow>
 #include <QStandardPaths>
 
 namespace {
@@ -50,34 +49,29 @@ TSExportController::TSExportController(QWidget &window) : m_window(window)
 
 TSExportController::~TSExportController()
 {
-    if (m_run) {
-        m_run->isCancelled = true;
-        m_run->isPausing = false;
-    }
-    m_questions.giveUp();
-    m_queue.waitForDone();
+    abandonRun();
     delete m_formatWC;
     delete m_pbWC;
     delete m_saveInfoWC;
     delete m_savePanel;
 }
 
+void TSExportController::abandonRun()
+{
+    if (m_run) {
+        m_run->isCancelled = true;
+        m_run->isPausing = false;
+    }
+    m_questions.giveUp();
+    m_queue.waitForDone();
+}
+
 void TSExportController::exportPhotos()
 {
     if (isRunning() || session()->photoCount() == 0)
         return;
-    for (TSSheet *sheet : {static_cast<TSSheet *>(m_formatWC), static_cast<TSSheet *>(m_pbWC),
-                           static_cast<TSSheet *>(m_saveInfoWC)})
-        sheet->setTopInset(topInset());
     m_formatWC->setPhotoCount(session()->photoCount());
     m_formatWC->open();
-}
-
-/// Sheets hang from below the toolbar.
-int TSExportController::topInset() const
-{
-    const auto *window = qobject_cast<QMainWindow *>(&m_window);
-    return window && window->centralWidget() ? window->centralWidget()->y() : 0;
 }
 
 QFileDialog *TSExportController::savePanel()
@@ -156,7 +150,6 @@ void TSExportController::reportFailures()
         TSCheckBoxAlert::alertWithMessageText(qtTrId("NotWritten", int(m_report.failedCount())), qtTrId("OK"),
                                               {}, {}, m_report.sentences(), &m_window);
     alert->setAttribute(Qt::WA_DeleteOnClose);
-    alert->setTopInset(topInset());
     alert->open();
 }
 

@@ -31,6 +31,8 @@ public:
     ~TSExportController() override;
 
     void exportPhotos();
+    /// Cancels the run under way and waits for its thread, whatever it asks; no widget is touched.
+    void abandonRun();
     bool isRunning() const { return m_run != nullptr; }
     /// Takes up what the preferences changed.
     void updateShowSaveInfo();
@@ -47,7 +49,6 @@ private:
     void start(const QString &folder);
     void end();
     void reportFailures();
-    int topInset() const;
     void onMainThread(const std::function<void()> &block);
 
     // On the thread of the run.

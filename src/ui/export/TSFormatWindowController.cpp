@@ -34,15 +34,6 @@ QLabel *newLabel(const QString &text, QWidget *parent)
     return label;
 }
 
-QPushButton *newButton(const char *name, const QString &title, QWidget *parent)
-{
-    auto *button = new QPushButton(title, parent);
-    button->setObjectName(QLatin1String(name));
-    button->setAccessibleName(title);
-    button->setAutoDefault(false);
-    return button;
-}
-
 } // namespace
 
 TSFormatWindowController::TSFormatWindowController(TSOutputSettings &settings, QWidget *parent)
@@ -134,8 +125,8 @@ QWidget *TSFormatWindowController::newBigView()
 
 QLayout *TSFormatWindowController::newButtons()
 {
-    QPushButton *btCancel = newButton("btCancel", qtTrId("Cancel"), this);
-    QPushButton *btOK = newButton("btOK", qtTrId("MenuExport"), this);
+    QPushButton *btCancel = newButton("btCancel", qtTrId("Cancel"));
+    QPushButton *btOK = newButton("btOK", qtTrId("MenuExport"));
     btOK->setDefault(true);
     connect(btCancel, &QPushButton::clicked, this, &TSFormatWindowController::clickCancel);
     connect(btOK, &QPushButton::clicked, this, &TSFormatWindowController::clickOK);

@@ -21,7 +21,7 @@ TSProgressBarWindowController::TSProgressBarWindowController(QWidget *parent)
     : TSSheet(parent)
     , m_tfTip(new QLabel(this))
     , m_pb(new QProgressBar(this))
-    , m_btCancel(new QPushButton(qtTrId("Cancel"), this))
+    , m_btCancel(newButton("btCancel", qtTrId("Cancel")))
 {
     setObjectName(QStringLiteral("ProgressBarWindow"));
     setAccessibleName(qtTrId("Converting..."));
@@ -30,9 +30,6 @@ TSProgressBarWindowController::TSProgressBarWindowController(QWidget *parent)
     m_pb->setAccessibleName(qtTrId("Converting..."));
     m_pb->setTextVisible(false);
     m_pb->setFixedHeight(barHeight);
-    m_btCancel->setObjectName(QStringLiteral("btCancel"));
-    m_btCancel->setAccessibleName(qtTrId("Cancel"));
-    m_btCancel->setAutoDefault(false);
     auto *row = new QHBoxLayout;
     row->setSpacing(TSTheme::margin);
     row->addWidget(m_pb, 1);
@@ -93,7 +90,7 @@ void TSProgressBarWindowController::setIsCancelled(bool isCancelled)
 
 void TSProgressBarWindowController::cancelClick()
 {
-    if (m_question || m_isCancelled || !m_btCancel->isVisibleTo(this))
+    if (m_question || m_isCancelled || isLeaving() || !m_btCancel->isVisibleTo(this))
         return;
     setIsPausing(true);
     if (m_isIndeterminate)
@@ -121,5 +118,5 @@ void TSProgressBarWindowController::endSheet()
     delete m_question;
     if (m_isPausing)
         setIsPausing(false);
-    done(Accepted);
+    leave();
 }

@@ -28,15 +28,6 @@ QLabel *newText(const char *name, QWidget *parent)
     return label;
 }
 
-QPushButton *newButton(const char *name, const QString &title, QWidget *parent)
-{
-    auto *button = new QPushButton(title, parent);
-    button->setObjectName(QLatin1String(name));
-    button->setAccessibleName(title);
-    button->setAutoDefault(false);
-    return button;
-}
-
 } // namespace
 
 TSSaveInfoWindowController::TSSaveInfoWindowController(QWidget *parent)
@@ -45,14 +36,14 @@ TSSaveInfoWindowController::TSSaveInfoWindowController(QWidget *parent)
     , m_tfPath(newText("tfPath", this))
     , m_tfReport(newText("tfReport", this))
     , m_cbShow(new QCheckBox(qtTrId("DontShowAgain"), this))
-    , m_btOK(newButton("btOK", qtTrId("ShowFile"), this))
+    , m_btOK(newButton("btOK", qtTrId("ShowFile")))
 {
     setObjectName(QStringLiteral("SaveInfoWindow"));
     m_cbShow->setObjectName(QStringLiteral("cbShow"));
     m_cbShow->setAccessibleName(m_cbShow->text());
     m_tfTitle->setFont(TSTheme::titleFont());
     m_btOK->setDefault(true);
-    auto *btCancel = newButton("btCancel", qtTrId("Close"), this);
+    auto *btCancel = newButton("btCancel", qtTrId("Close"));
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(TSTheme::spacing);
     buttons->addWidget(m_cbShow);

@@ -51,6 +51,14 @@ QAccessibleInterface *TSPreviewAccessible::child(int index) const
     return made;
 }
 
+QAccessibleInterface *TSPreviewAccessible::focusChild() const
+{
+    const auto &selected = m_view.preview().selection().editingOverlaysArray();
+    if (selected.empty() || !m_view.hasFocus())
+        return QAccessibleWidget::focusChild();
+    return child(int(TSOverlayManager::overlayManager()->indexOfOverlay(selected.back())));
+}
+
 QAccessibleInterface *TSPreviewAccessible::childAt(int x, int y) const
 {
     for (int index = 0; index < childCount(); ++index)

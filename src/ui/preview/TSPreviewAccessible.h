@@ -19,6 +19,8 @@ public:
 
     int childCount() const override;
     QAccessibleInterface *child(int index) const override;
+    /// Of the selected marks the one that was selected last.
+    QAccessibleInterface *focusChild() const override;
     QAccessibleInterface *childAt(int x, int y) const override;
     int indexOfChild(const QAccessibleInterface *child) const override;
 

@@ -1,5 +1,6 @@
 #include "ui/preview/TSPreviewScrollView.h"
 
+#include "controls/TSTheme.h"
 #include "preview/TSPhotoDrop.h"
 #include "preview/TSPreviewBackground.h"
 #include "session/TSNotificationCenter.h"
@@ -18,6 +19,10 @@ namespace {
 /// What one notch of the wheel adds to the size of the canvas.
 constexpr double zoomPerNotch = 0.1;
 constexpr double unitsPerNotch = 120;
+/// With Shift a key does this many steps at once.
+constexpr int farSteps = 10;
+constexpr double stepsPerCanvas = 200;
+constexpr double degree = std::numbers::pi / 180;
 
 unsigned modifierFlagsOf(Qt::KeyboardModifiers modifiers)
 {
@@ -52,6 +57,9 @@ TSPreviewScrollView::TSPreviewScrollView(QWidget *parent) : QAbstractScrollArea(
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setMouseTracking(true);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    // What keys, menus and assistive programs select shows at once, as what the mouse does.
+    connect(TSNotificationCenter::defaultCenter(), &TSNotificationCenter::overlaysChanged, viewport(),
+            qOverload<>(&QWidget::update));
 }
 
 QRectF TSPreviewScrollView::superviewFrame() const
@@ -191,18 +199,27 @@ void TSPreviewScrollView::paintEvent(QPaintEvent *event)
         drawFocusRing(painter);
 }
 
-/// Around the marks that the keys act on, for whoever works without a mouse.
+/// Around the marks that the keys act on, or else the whole preview, for whoever works without a mouse.
 void TSPreviewScrollView::drawFocusRing(QPainter &painter)
 {
+    if (m_preview.selection().editingOverlaysArray().empty()) {
+        painter.resetTransform();
+        TSTheme::drawFocusRing(painter, viewport()->rect(), palette(), 3);
+        return;
+    }
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
     for (const auto &overlay : m_preview.selection().editingOverlaysArray()) {
         painter.save();
         const QPointF center = overlay->frame().center();
         painter.translate(center);
         painter.rotate(overlay->angle() * 180 / std::numbers::pi);
         painter.translate(-center);
-        painter.drawRoundedRect(overlay->frame().adjusted(-5, -5, 5, 5), 4, 4);
+        // On a rim, to be seen on any photo.
+        for (const auto &[color, width] :
+             {std::pair(QPalette::Window, 4), std::pair(QPalette::Highlight, 2)}) {
+            painter.setPen(QPen(palette().color(color), width));
+            painter.drawRoundedRect(overlay->frame().adjusted(-5, -5, 5, 5), 4, 4);
+        }
         painter.restore();
     }
 }
@@ -229,8 +246,11 @@ void TSPreviewScrollView::focusOutEvent(QFocusEvent *)
 void TSPreviewScrollView::mousePressEvent(QMouseEvent *event)
 {
     m_isUsedByKeys = false;
-    if (event->button() == Qt::LeftButton)
-        m_preview.mouseDown(mapped(*event, 1));
+    if (event->button() != Qt::LeftButton)
+        return;
+    // A finger comes without moving there first, and of moves that wait the toolkit keeps the last alone.
+    m_preview.mouseMoved(mapped(*event, 0));
+    m_preview.mouseDown(mapped(*event, 1));
 }
 
 void TSPreviewScrollView::mouseDoubleClickEvent(QMouseEvent *event)
@@ -261,15 +281,75 @@ void TSPreviewScrollView::wheelEvent(QWheelEvent *event)
         QAbstractScrollArea::wheelEvent(event);
 }
 
+void TSPreviewScrollView::turnSelection(int steps)
+{
+    m_preview.dragging().turnSelection(steps * degree);
+}
+
+void TSPreviewScrollView::resizeSelection(int steps)
+{
+    const double step = m_preview.layout().canvasViewFrame().width() / stepsPerCanvas;
+    m_preview.dragging().resizeSelection(steps * step);
+}
+
+void TSPreviewScrollView::zoom(int notches)
+{
+    m_preview.presenter().magnifyWithEvent(notches * zoomPerNotch);
+}
+
 void TSPreviewScrollView::keyPressEvent(QKeyEvent *event)
 {
+    m_isUsedByKeys = true;
+    viewport()->update();
+    if (manipulateByKey(*event))
+        return tellMark({QAccessible::LocationChanged, QAccessible::DescriptionChanged});
+    const bool hadSelection = !m_preview.selection().editingOverlaysArray().empty();
     const bool isDelete = event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace;
-    if ((isDelete || isArrow(event->key())) && !m_preview.selection().editingOverlaysArray().empty())
-        m_preview.trackerLayer().keyDown(event->key());
-    else if (event->key() == Qt::Key_Escape)
+    m_preview.trackerLayer().keyDown(event->key());
+    if (event->key() == Qt::Key_Escape)
         m_preview.selection().selectOverlay(nullptr);
-    else
+    else if (!hadSelection || !(isDelete || isArrow(event->key())))
         QAbstractScrollArea::keyPressEvent(event);
+    if (isArrow(event->key()))
+        tellMark({QAccessible::LocationChanged, QAccessible::DescriptionChanged});
+}
+
+/// Whoever does not see the mark is told which it is, and where it went.
+void TSPreviewScrollView::tellMark(std::initializer_list<QAccessible::Event> events)
+{
+    const auto &selected = m_preview.selection().editingOverlaysArray();
+    if (selected.empty() || !QAccessible::isActive())
+        return;
+    const qint64 index = TSOverlayManager::overlayManager()->indexOfOverlay(selected.back());
+    QAccessibleInterface *mark = QAccessible::queryAccessibleInterface(this)->child(int(index));
+    for (const QAccessible::Event kind : events)
+        if (mark) {
+            QAccessibleEvent event(mark, kind);
+            QAccessible::updateAccessibility(&event);
+        }
+}
+
+/// What the nodes do under the mouse, and the adding of marks to the selection.
+bool TSPreviewScrollView::manipulateByKey(const QKeyEvent &event)
+{
+    if (!(event.modifiers() & Qt::ControlModifier))
+        return false;
+    const int steps = event.modifiers() & Qt::ShiftModifier ? farSteps : 1;
+    switch (event.key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        turnSelection(event.key() == Qt::Key_Left ? -steps : steps);
+        return true;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        resizeSelection(event.key() == Qt::Key_Up ? steps : -steps);
+        return true;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        return selectNeighbour(event.key() == Qt::Key_Tab ? 1 : -1, true);
+    default:
+        return false;
+    }
 }
 
 /// Tab goes from mark to mark, and leaves the preview behind the last one.
@@ -279,7 +359,7 @@ bool TSPreviewScrollView::focusNextPrevChild(bool next)
     return selectNeighbour(next ? 1 : -1) || QAbstractScrollArea::focusNextPrevChild(next);
 }
 
-bool TSPreviewScrollView::selectNeighbour(int step)
+bool TSPreviewScrollView::selectNeighbour(int step, bool isAdding)
 {
     const TSOverlayManager *manager = TSOverlayManager::overlayManager();
     const auto &selected = m_preview.selection().editingOverlaysArray();
@@ -289,7 +369,13 @@ bool TSPreviewScrollView::selectNeighbour(int step)
     const auto neighbour = manager->overlayAtIndex(present + step);
     if (!neighbour)
         return false;
-    m_preview.selection().selectOverlay(neighbour);
+    if (!isAdding) {
+        m_preview.selection().selectOverlay(neighbour);
+    } else if (!neighbour->isScript() && !m_preview.selection().isContainScriptObject()) {
+        m_preview.selection().editingOverlaysArrayAddobject(neighbour);
+        m_preview.selection().setEditingOverlays(false);
+    }
+    tellMark({QAccessible::Focus});
     return true;
 }
 

@@ -4,6 +4,7 @@
 #include "preview/TSPreviewView.h"
 
 #include <QAbstractScrollArea>
+#include <QAccessible>
 #include <QPixmap>
 
 /// Shows the preview and hands it the events, mapped to overlay space: the photo at the bottom, the overlays,
@@ -18,6 +19,11 @@ public:
     TSPreview &preview() { return m_preview; }
     /// A rectangle of overlay space, in pixels of the screen.
     QRect onScreen(const QRectF &rect) const;
+
+    // The steps of the keys: a degree to the right, a half percent of the canvas, a notch of the wheel.
+    void turnSelection(int steps);
+    void resizeSelection(int steps);
+    void zoom(int notches);
 
 Q_SIGNALS:
     /// The titles and check marks of the zoom list are to be shown anew.
@@ -59,7 +65,9 @@ private:
     const QPixmap &canvasPicture();
     QPixmap newLayerPicture() const;
     void drawFocusRing(QPainter &painter);
-    bool selectNeighbour(int step);
+    bool selectNeighbour(int step, bool isAdding = false);
+    bool manipulateByKey(const QKeyEvent &event);
+    void tellMark(std::initializer_list<QAccessible::Event> events);
 
     QSizeF m_documentSize;
     TSCursor m_cursor = TSCursor::arrowCursor;
