@@ -2,6 +2,7 @@
 
 #include "platform/JpegStream.h"
 #include "platform/PhotoshopResources.h"
+#include "platform/PictureFiles.h"
 #include "platform/TiffStructure.h"
 
 #include <algorithm>
@@ -93,6 +94,7 @@ constexpr Base64Signature Base64Signatures[] = {
     {"SUkqA", 0},       // TIFF
     {"TU0AK", 0},       // TIFF
     {"AAAADEpYTCA", 0}, // JPEG XL
+    {"AAAADGpQICA", 0}, // JPEG 2000
 };
 
 bool beginsText(QByteArrayView block, qsizetype at)
@@ -150,6 +152,8 @@ private:
         SamplesPerPixel = 0x0115,
         StripByteCounts = 0x0117,
         PlanarConfiguration = 0x011C,
+        TileOffsets = 0x0144,
+        TileByteCounts = 0x0145,
         SubDirectories = 0x014A,
         JpegOffset = 0x0201,
         JpegLength = 0x0202,
@@ -163,6 +167,7 @@ private:
     void occupy(const TiffStructure::Directory &directory);
     void addJpeg(const TiffStructure::Directory &directory);
     void addStrips(const TiffStructure::Directory &directory);
+    void addRanges(const TiffStructure::Directory &directory, Tag offsetsTag, Tag lengthsTag);
     void addRange(qsizetype begin, qsizetype length);
     QSize pixelSize(const TiffStructure::Directory &directory) const;
 
@@ -197,6 +202,7 @@ void ExifDirectories::visit(const TiffStructure::Directory &directory, int depth
     occupy(directory);
     addJpeg(directory);
     addStrips(directory);
+    addRanges(directory, TileOffsets, TileByteCounts);
     for (const quint16 tag : {SubDirectories, ExifDirectory, GpsDirectory, InteroperabilityDirectory}) {
         const TiffStructure::Entry *entry = depth < deepest ? directory.find(tag) : nullptr;
         std::vector<quint32> positions = entry ? m_tiff.numbers(*entry) : std::vector<quint32>();
@@ -233,17 +239,22 @@ void ExifDirectories::addRange(qsizetype begin, qsizetype length)
         m_declared.push_back({PictureSlot::Fill::Zeros, begin, std::min(length, m_block.size() - begin), {}});
 }
 
-void ExifDirectories::addStrips(const TiffStructure::Directory &directory)
+void ExifDirectories::addRanges(const TiffStructure::Directory &directory, Tag offsetsTag, Tag lengthsTag)
 {
-    const TiffStructure::Entry *offsets = directory.find(StripOffsets);
-    const TiffStructure::Entry *lengths = directory.find(StripByteCounts);
+    const TiffStructure::Entry *offsets = directory.find(offsetsTag);
+    const TiffStructure::Entry *lengths = directory.find(lengthsTag);
     if (!offsets || !lengths)
         return;
     const std::vector<quint32> begins = m_tiff.numbers(*offsets);
     const std::vector<quint32> counts = m_tiff.numbers(*lengths);
-    const size_t before = m_declared.size();
     for (size_t i = 0; i < std::min(begins.size(), counts.size()); ++i)
         addRange(begins[i], counts[i]);
+}
+
+void ExifDirectories::addStrips(const TiffStructure::Directory &directory)
+{
+    const size_t before = m_declared.size();
+    addRanges(directory, StripOffsets, StripByteCounts);
     const QSize size = pixelSize(directory);
     if (m_declared.size() == before + 1 &&
         m_declared.back().length == qsizetype(size.width()) * size.height() * 3) {
@@ -295,6 +306,34 @@ Slots findIptcPreviews(QByteArrayView record, qsizetype origin)
     return result;
 }
 
+Slots findOtherFiles(QByteArrayView block)
+{
+    Slots result;
+    for (const ByteRange &file : findPictureFiles(block))
+        result.push_back({PictureSlot::Fill::Zeros, file.begin, file.length, {}});
+    return result;
+}
+
+/// What the directories of TIFF structures declare as pictures that stand anywhere in the block: makers keep
+/// their notes in such structures, and Photoshop a second EXIF block.
+Slots findNestedTiffPictures(QByteArrayView block)
+{
+    constexpr int mostStructures = 16;
+    Slots result;
+    for (const QByteArrayView header : {QByteArrayView("II*\0", 4), QByteArrayView("MM\0*", 4)}) {
+        qsizetype at = block.indexOf(header, 1);
+        for (int count = 0; at > 0 && count < mostStructures; ++count, at = block.indexOf(header, at + 1)) {
+            const QByteArrayView nested = block.sliced(at);
+            const std::optional<TiffStructure> tiff = TiffStructure::read(nested);
+            for (PictureSlot slot : tiff ? ExifDirectories(nested, *tiff).find() : Slots()) {
+                slot.begin += at;
+                result.push_back(slot);
+            }
+        }
+    }
+    return result;
+}
+
 } // namespace
 
 std::vector<PictureSlot> findJpegs(QByteArrayView block)
@@ -330,7 +369,9 @@ std::vector<PictureSlot> findExifPictures(QByteArrayView block)
     for (PictureSlot &jpeg : result)
         shorten(jpeg, block, declared);
     append(result, findBase64Pictures(block));
+    append(result, findOtherFiles(block));
     append(result, declared);
+    append(result, findNestedTiffPictures(block));
     return result;
 }
 
@@ -339,6 +380,8 @@ std::vector<PictureSlot> findPhotoshopPictures(QByteArrayView block)
     constexpr qsizetype thumbnailHeader = 28;
     Slots result = findJpegs(block);
     append(result, findBase64Pictures(block));
+    append(result, findOtherFiles(block));
+    append(result, findNestedTiffPictures(block));
     for (const auto &[id, begin, length] : readPhotoshopResources(block)) {
         const bool isThumbnail = id == PhotoshopResource::Thumbnail || id == PhotoshopResource::OldThumbnail;
         if (id == PhotoshopResource::Iptc)

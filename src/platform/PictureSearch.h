@@ -28,8 +28,8 @@ struct PictureSlot {
 std::vector<PictureSlot> findJpegs(QByteArrayView block);
 /// Base64 text of a picture, as XMP holds it.
 std::vector<PictureSlot> findBase64Pictures(QByteArrayView block);
-/// All of the above, and what the directories of an EXIF block declare as pictures. The block begins with the
-/// TIFF header.
+/// All of the above, picture files of other formats, and what the directories of an EXIF block declare as
+/// pictures, or those of TIFF structures inside of it. The block begins with the TIFF header.
 std::vector<PictureSlot> findExifPictures(QByteArrayView block);
 /// All of the above, and what Photoshop's resources and the IPTC record in them declare as pictures.
 std::vector<PictureSlot> findPhotoshopPictures(QByteArrayView block);
