@@ -242,3 +242,15 @@ TEST_F(LazyImageTest, ThumbnailsHoldMeansOfWhatStreamedBy)
     EXPECT_TRUE(platform::ThumbnailCollector({64, 32}, {}).thumbnail().isNull());
     EXPECT_TRUE(platform::ThumbnailCollector({}, {4, 2}).thumbnail().isNull());
 }
+
+TEST_F(LazyImageTest, BitmapsThatBreakOffAreNoPictures)
+{
+    for (const auto format : {QImage::Format_RGB32, QImage::Format_Indexed8, QImage::Format_Mono}) {
+        const QString whole = path("whole.bmp");
+        ASSERT_TRUE(plain({33, 20}, Qt::white).convertToFormat(format).save(whole, "BMP"));
+        EXPECT_EQ(platform::decodeImage(whole).pixelColor(32, 19), QColor(Qt::white));
+        QFile file(whole);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        EXPECT_FALSE(platform::isDecodableImage(write("cut.bmp", file.readAll().chopped(1)))) << format;
+    }
+}
