@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdlib>
 #include <mutex>
+#include <QColorSpace>
 
 namespace platform {
 
@@ -74,6 +75,26 @@ bool isSRGB(const void *profile, size_t length)
     return lastAnswer;
 }
 
+/// Cameras that shoot in Adobe RGB say so in the EXIF block, by the name of the file rules that they keep to,
+/// and many embed no profile.
+bool isAdobeRGBByCamera(VipsImage *image)
+{
+    constexpr const char *field = "exif-ifd4-InteroperabilityIndex";
+    const char *rules = nullptr;
+    return vips_image_get_typeof(image, field) && !vips_image_get_string(image, field, &rules) &&
+           QByteArrayView(rules).startsWith("R03");
+}
+
+VipsImagePtr withAdobeRGBProfile(VipsImage *image)
+{
+    static const QByteArray profile = QColorSpace(QColorSpace::AdobeRgb).iccProfile();
+    VipsImage *copy = nullptr;
+    if (vips_copy(image, &copy, nullptr))
+        return nullptr;
+    vips_image_set_blob_copy(copy, VIPS_META_ICC_NAME, profile.constData(), size_t(profile.size()));
+    return VipsImagePtr(copy);
+}
+
 bool isPlainRGB(const VipsImage *image)
 {
     return image->BandFmt == VIPS_FORMAT_UCHAR && (image->Bands == 3 || image->Bands == 4) &&
@@ -102,8 +123,12 @@ VipsImagePtr toSRGBByProfile(VipsImage *image)
 {
     const void *profile = nullptr;
     size_t length = 0;
-    if (!vips_image_get_typeof(image, VIPS_META_ICC_NAME) ||
-        vips_image_get_blob(image, VIPS_META_ICC_NAME, &profile, &length))
+    if (!vips_image_get_typeof(image, VIPS_META_ICC_NAME)) {
+        const bool isAdobe = isPlainRGB(image) && isAdobeRGBByCamera(image);
+        const VipsImagePtr profiled = isAdobe ? withAdobeRGBProfile(image) : nullptr;
+        return profiled ? transformed(profiled.get()) : nullptr;
+    }
+    if (vips_image_get_blob(image, VIPS_META_ICC_NAME, &profile, &length))
         return nullptr;
     if (isPlainRGB(image) && isSRGB(profile, length))
         return nullptr;

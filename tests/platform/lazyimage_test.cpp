@@ -254,3 +254,16 @@ TEST_F(LazyImageTest, BitmapsThatBreakOffAreNoPictures)
         EXPECT_FALSE(platform::isDecodableImage(write("cut.bmp", file.readAll().chopped(1)))) << format;
     }
 }
+
+TEST_F(LazyImageTest, TheCameraTellsOfAdobeRGBWhereNoProfileDoes)
+{
+    // By the matrices and curves of Adobe RGB and sRGB.
+    const QColor moved(66, 151, 34);
+    const platform::VipsImagePtr image = flat({100, 150, 50}, VIPS_FORMAT_UCHAR, VIPS_INTERPRETATION_sRGB);
+    for (const char *rules : {"R03", "R98"}) {
+        vips_image_set_string(image.get(), "exif-ifd4-InteroperabilityIndex", rules);
+        const LazyImage opened = LazyImage::open(write("camera.jpg", image.get()), {});
+        expectColor(opened.inSRGB().toImage().pixelColor(8, 8),
+                    rules == std::string("R03") ? moved : QColor(100, 150, 50), 2);
+    }
+}
