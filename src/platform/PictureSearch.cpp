@@ -4,6 +4,7 @@
 #include "platform/PhotoshopResources.h"
 #include "platform/PictureFiles.h"
 #include "platform/TiffStructure.h"
+#include "platform/TiffTags.h"
 
 #include <algorithm>
 #include <cstring>
@@ -142,32 +143,11 @@ public:
     Slots find();
 
 private:
-    enum Tag : quint16 {
-        Width = 0x0100,
-        Height = 0x0101,
-        BitsPerSample = 0x0102,
-        Compression = 0x0103,
-        Photometric = 0x0106,
-        StripOffsets = 0x0111,
-        SamplesPerPixel = 0x0115,
-        StripByteCounts = 0x0117,
-        PlanarConfiguration = 0x011C,
-        TileOffsets = 0x0144,
-        TileByteCounts = 0x0145,
-        SubDirectories = 0x014A,
-        JpegOffset = 0x0201,
-        JpegLength = 0x0202,
-        ExifDirectory = 0x8769,
-        GpsDirectory = 0x8825,
-        MakerNote = 0x927C,
-        InteroperabilityDirectory = 0xA005
-    };
-
     void visit(const TiffStructure::Directory &directory, int depth);
     void occupy(const TiffStructure::Directory &directory);
     void addJpeg(const TiffStructure::Directory &directory);
     void addStrips(const TiffStructure::Directory &directory);
-    void addRanges(const TiffStructure::Directory &directory, Tag offsetsTag, Tag lengthsTag);
+    void addRanges(const TiffStructure::Directory &directory, tifftag::Tag offsets, tifftag::Tag lengths);
     void addRange(qsizetype begin, qsizetype length);
     QSize pixelSize(const TiffStructure::Directory &directory) const;
 
@@ -202,8 +182,9 @@ void ExifDirectories::visit(const TiffStructure::Directory &directory, int depth
     occupy(directory);
     addJpeg(directory);
     addStrips(directory);
-    addRanges(directory, TileOffsets, TileByteCounts);
-    for (const quint16 tag : {SubDirectories, ExifDirectory, GpsDirectory, InteroperabilityDirectory}) {
+    addRanges(directory, tifftag::TileOffsets, tifftag::TileByteCounts);
+    for (const quint16 tag : {tifftag::SubDirectories, tifftag::ExifDirectory, tifftag::GpsDirectory,
+                              tifftag::InteroperabilityDirectory}) {
         const TiffStructure::Entry *entry = depth < deepest ? directory.find(tag) : nullptr;
         std::vector<quint32> positions = entry ? m_tiff.numbers(*entry) : std::vector<quint32>();
         positions.resize(std::min(positions.size(), mostSubdirectories));
@@ -219,15 +200,15 @@ void ExifDirectories::occupy(const TiffStructure::Directory &directory)
     m_occupied.push_back({PictureSlot::Fill::Zeros, directory.position, directory.length, {}});
     for (const TiffStructure::Entry &entry : directory.entries) {
         // Cameras do keep the thumbnail inside their notes.
-        if (entry.tag != MakerNote && entry.length > 4)
+        if (entry.tag != tifftag::MakerNote && entry.length > 4)
             m_occupied.push_back({PictureSlot::Fill::Zeros, entry.position, entry.length, {}});
     }
 }
 
 void ExifDirectories::addJpeg(const TiffStructure::Directory &directory)
 {
-    const auto offset = m_tiff.number(directory, JpegOffset);
-    const auto length = m_tiff.number(directory, JpegLength);
+    const auto offset = m_tiff.number(directory, tifftag::JpegOffset);
+    const auto length = m_tiff.number(directory, tifftag::JpegLength);
     if (offset && length)
         addRange(*offset, *length);
 }
@@ -239,14 +220,15 @@ void ExifDirectories::addRange(qsizetype begin, qsizetype length)
         m_declared.push_back({PictureSlot::Fill::Zeros, begin, std::min(length, m_block.size() - begin), {}});
 }
 
-void ExifDirectories::addRanges(const TiffStructure::Directory &directory, Tag offsetsTag, Tag lengthsTag)
+void ExifDirectories::addRanges(const TiffStructure::Directory &directory, tifftag::Tag offsets,
+                                tifftag::Tag lengths)
 {
-    const TiffStructure::Entry *offsets = directory.find(offsetsTag);
-    const TiffStructure::Entry *lengths = directory.find(lengthsTag);
-    if (!offsets || !lengths)
+    const TiffStructure::Entry *positions = directory.find(offsets);
+    const TiffStructure::Entry *byteCounts = directory.find(lengths);
+    if (!positions || !byteCounts)
         return;
-    const std::vector<quint32> begins = m_tiff.numbers(*offsets);
-    const std::vector<quint32> counts = m_tiff.numbers(*lengths);
+    const std::vector<quint32> begins = m_tiff.numbers(*positions);
+    const std::vector<quint32> counts = m_tiff.numbers(*byteCounts);
     for (size_t i = 0; i < std::min(begins.size(), counts.size()); ++i)
         addRange(begins[i], counts[i]);
 }
@@ -254,7 +236,7 @@ void ExifDirectories::addRanges(const TiffStructure::Directory &directory, Tag o
 void ExifDirectories::addStrips(const TiffStructure::Directory &directory)
 {
     const size_t before = m_declared.size();
-    addRanges(directory, StripOffsets, StripByteCounts);
+    addRanges(directory, tifftag::StripOffsets, tifftag::StripByteCounts);
     const QSize size = pixelSize(directory);
     if (m_declared.size() == before + 1 &&
         m_declared.back().length == qsizetype(size.width()) * size.height() * 3) {
@@ -266,14 +248,14 @@ void ExifDirectories::addStrips(const TiffStructure::Directory &directory)
 /// The size of uncompressed 8-bit RGB pixels; empty for pixels of any other kind.
 QSize ExifDirectories::pixelSize(const TiffStructure::Directory &directory) const
 {
-    const TiffStructure::Entry *bits = directory.find(BitsPerSample);
+    const TiffStructure::Entry *bits = directory.find(tifftag::BitsPerSample);
     const bool isRgb = bits && m_tiff.numbers(*bits) == std::vector<quint32>{8, 8, 8} &&
-                       m_tiff.number(directory, Compression).value_or(0) == 1 &&
-                       m_tiff.number(directory, Photometric).value_or(0) == 2 &&
-                       m_tiff.number(directory, SamplesPerPixel).value_or(0) == 3 &&
-                       m_tiff.number(directory, PlanarConfiguration).value_or(1) == 1;
-    const quint32 width = m_tiff.number(directory, Width).value_or(0);
-    const quint32 height = m_tiff.number(directory, Height).value_or(0);
+                       m_tiff.number(directory, tifftag::Compression).value_or(0) == 1 &&
+                       m_tiff.number(directory, tifftag::Photometric).value_or(0) == 2 &&
+                       m_tiff.number(directory, tifftag::SamplesPerPixel).value_or(0) == 3 &&
+                       m_tiff.number(directory, tifftag::PlanarConfiguration).value_or(1) == 1;
+    const quint32 width = m_tiff.number(directory, tifftag::Width).value_or(0);
+    const quint32 height = m_tiff.number(directory, tifftag::Height).value_or(0);
     if (!isRgb || std::max(width, height) > quint32(LargestSide))
         return {};
     return {int(width), int(height)};
