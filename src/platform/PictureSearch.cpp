@@ -3,20 +3,15 @@
 #include "platform/JpegStream.h"
 #include "platform/PhotoshopResources.h"
 #include "platform/PictureFiles.h"
-#include "platform/TiffStructure.h"
-#include "platform/TiffTags.h"
+#include "platform/TiffPictures.h"
 
 #include <algorithm>
-#include <cstring>
 #include <optional>
 #include <QtEndian>
 
 namespace platform {
 
 namespace {
-
-/// A size that no thumbnail or preview has, and that would only cost memory to fill.
-constexpr int LargestSide = 8192;
 
 using Slots = std::vector<PictureSlot>;
 
@@ -31,7 +26,8 @@ PictureSlot jpegSlot(const JpegStream &stream, qsizetype begin)
     constexpr qsizetype mostPixelsInByte = 256;
     const QSize size = stream.size();
     const qsizetype length = stream.end() - begin;
-    const bool isPlausible = !size.isEmpty() && std::max(size.width(), size.height()) <= LargestSide &&
+    const bool isPlausible = !size.isEmpty() &&
+                             std::max(size.width(), size.height()) <= PictureSlot::LargestSide &&
                              qsizetype(size.width()) * size.height() <= length * mostPixelsInByte;
     if (!isPlausible)
         return {PictureSlot::Fill::Zeros, begin, length, {}};
@@ -119,11 +115,6 @@ void findBase64(QByteArrayView block, const Base64Signature &signature, Slots &f
     }
 }
 
-bool overlaps(const PictureSlot &a, qsizetype begin, qsizetype length)
-{
-    return a.begin < begin + length && begin < a.begin + a.length;
-}
-
 /// A picture that was cut off seems to run on to the end of the block, over whatever follows it. Where a
 /// directory tells its length, that is all it takes up.
 void shorten(PictureSlot &jpeg, QByteArrayView block, const Slots &declared)
@@ -134,131 +125,6 @@ void shorten(PictureSlot &jpeg, QByteArrayView block, const Slots &declared)
         if (slot.begin == jpeg.begin)
             jpeg.length = std::min(jpeg.length, slot.length);
     }
-}
-
-/// Finds the pictures that the directories of an EXIF block point to.
-class ExifDirectories {
-public:
-    ExifDirectories(QByteArrayView block, const TiffStructure &tiff) : m_block(block), m_tiff(tiff) {}
-    Slots find();
-
-private:
-    void visit(const TiffStructure::Directory &directory, int depth);
-    void occupy(const TiffStructure::Directory &directory);
-    void addJpeg(const TiffStructure::Directory &directory);
-    void addStrips(const TiffStructure::Directory &directory);
-    void addRanges(const TiffStructure::Directory &directory, tifftag::Tag offsets, tifftag::Tag lengths);
-    void addRange(qsizetype begin, qsizetype length);
-    QSize pixelSize(const TiffStructure::Directory &directory) const;
-
-    QByteArrayView m_block;
-    const TiffStructure &m_tiff;
-    Slots m_declared;
-    /// What directories and the values of their tags take up.
-    Slots m_occupied;
-};
-
-Slots ExifDirectories::find()
-{
-    for (const TiffStructure::Directory &directory : m_tiff.chain())
-        visit(directory, 0);
-    // In damaged blocks the offsets point anywhere. What lies over tags is no picture, unless it begins like
-    // one.
-    const auto isLie = [this](const PictureSlot &slot) {
-        const bool looksLikeJpeg = slot.length > 2 && m_block.sliced(slot.begin + 1).startsWith("\xD8\xFF");
-        const auto overlapping = [&slot](const PictureSlot &other) {
-            return overlaps(other, slot.begin, slot.length);
-        };
-        return !looksLikeJpeg && std::any_of(m_occupied.begin(), m_occupied.end(), overlapping);
-    };
-    m_declared.erase(std::remove_if(m_declared.begin(), m_declared.end(), isLie), m_declared.end());
-    return m_declared;
-}
-
-void ExifDirectories::visit(const TiffStructure::Directory &directory, int depth)
-{
-    constexpr int deepest = 3;
-    constexpr size_t mostSubdirectories = 16;
-    occupy(directory);
-    addJpeg(directory);
-    addStrips(directory);
-    addRanges(directory, tifftag::TileOffsets, tifftag::TileByteCounts);
-    for (const quint16 tag : {tifftag::SubDirectories, tifftag::ExifDirectory, tifftag::GpsDirectory,
-                              tifftag::InteroperabilityDirectory}) {
-        const TiffStructure::Entry *entry = depth < deepest ? directory.find(tag) : nullptr;
-        std::vector<quint32> positions = entry ? m_tiff.numbers(*entry) : std::vector<quint32>();
-        positions.resize(std::min(positions.size(), mostSubdirectories));
-        for (const quint32 position : positions) {
-            if (const auto subdirectory = m_tiff.directoryAt(position))
-                visit(*subdirectory, depth + 1);
-        }
-    }
-}
-
-void ExifDirectories::occupy(const TiffStructure::Directory &directory)
-{
-    m_occupied.push_back({PictureSlot::Fill::Zeros, directory.position, directory.length, {}});
-    for (const TiffStructure::Entry &entry : directory.entries) {
-        // Cameras do keep the thumbnail inside their notes.
-        if (entry.tag != tifftag::MakerNote && entry.length > 4)
-            m_occupied.push_back({PictureSlot::Fill::Zeros, entry.position, entry.length, {}});
-    }
-}
-
-void ExifDirectories::addJpeg(const TiffStructure::Directory &directory)
-{
-    const auto offset = m_tiff.number(directory, tifftag::JpegOffset);
-    const auto length = m_tiff.number(directory, tifftag::JpegLength);
-    if (offset && length)
-        addRange(*offset, *length);
-}
-
-void ExifDirectories::addRange(qsizetype begin, qsizetype length)
-{
-    constexpr qsizetype header = 8;
-    if (begin >= header && begin < m_block.size() && length > 0)
-        m_declared.push_back({PictureSlot::Fill::Zeros, begin, std::min(length, m_block.size() - begin), {}});
-}
-
-void ExifDirectories::addRanges(const TiffStructure::Directory &directory, tifftag::Tag offsets,
-                                tifftag::Tag lengths)
-{
-    const TiffStructure::Entry *positions = directory.find(offsets);
-    const TiffStructure::Entry *byteCounts = directory.find(lengths);
-    if (!positions || !byteCounts)
-        return;
-    const std::vector<quint32> begins = m_tiff.numbers(*positions);
-    const std::vector<quint32> counts = m_tiff.numbers(*byteCounts);
-    for (size_t i = 0; i < std::min(begins.size(), counts.size()); ++i)
-        addRange(begins[i], counts[i]);
-}
-
-void ExifDirectories::addStrips(const TiffStructure::Directory &directory)
-{
-    const size_t before = m_declared.size();
-    addRanges(directory, tifftag::StripOffsets, tifftag::StripByteCounts);
-    const QSize size = pixelSize(directory);
-    if (m_declared.size() == before + 1 &&
-        m_declared.back().length == qsizetype(size.width()) * size.height() * 3) {
-        m_declared.back().fill = PictureSlot::Fill::Pixels;
-        m_declared.back().size = size;
-    }
-}
-
-/// The size of uncompressed 8-bit RGB pixels; empty for pixels of any other kind.
-QSize ExifDirectories::pixelSize(const TiffStructure::Directory &directory) const
-{
-    const TiffStructure::Entry *bits = directory.find(tifftag::BitsPerSample);
-    const bool isRgb = bits && m_tiff.numbers(*bits) == std::vector<quint32>{8, 8, 8} &&
-                       m_tiff.number(directory, tifftag::Compression).value_or(0) == 1 &&
-                       m_tiff.number(directory, tifftag::Photometric).value_or(0) == 2 &&
-                       m_tiff.number(directory, tifftag::SamplesPerPixel).value_or(0) == 3 &&
-                       m_tiff.number(directory, tifftag::PlanarConfiguration).value_or(1) == 1;
-    const quint32 width = m_tiff.number(directory, tifftag::Width).value_or(0);
-    const quint32 height = m_tiff.number(directory, tifftag::Height).value_or(0);
-    if (!isRgb || std::max(width, height) > quint32(LargestSide))
-        return {};
-    return {int(width), int(height)};
 }
 
 /// The preview that an IPTC record may hold in its second part.
@@ -288,37 +154,8 @@ Slots findIptcPreviews(QByteArrayView record, qsizetype origin)
     return result;
 }
 
-Slots findOtherFiles(QByteArrayView block)
-{
-    Slots result;
-    for (const ByteRange &file : findPictureFiles(block))
-        result.push_back({PictureSlot::Fill::Zeros, file.begin, file.length, {}});
-    return result;
-}
-
-/// What the directories of TIFF structures declare as pictures that stand anywhere in the block: makers keep
-/// their notes in such structures, and Photoshop a second EXIF block.
-Slots findNestedTiffPictures(QByteArrayView block)
-{
-    constexpr int mostStructures = 16;
-    Slots result;
-    for (const QByteArrayView header : {QByteArrayView("II*\0", 4), QByteArrayView("MM\0*", 4)}) {
-        qsizetype at = block.indexOf(header, 1);
-        for (int count = 0; at > 0 && count < mostStructures; ++count, at = block.indexOf(header, at + 1)) {
-            const QByteArrayView nested = block.sliced(at);
-            const std::optional<TiffStructure> tiff = TiffStructure::read(nested);
-            for (PictureSlot slot : tiff ? ExifDirectories(nested, *tiff).find() : Slots()) {
-                slot.begin += at;
-                result.push_back(slot);
-            }
-        }
-    }
-    return result;
-}
-
-} // namespace
-
-std::vector<PictureSlot> findJpegs(QByteArrayView block)
+/// JPEG pictures anywhere, whoever wrote them and by whatever offset they are found.
+Slots findJpegs(QByteArrayView block)
 {
     Slots result;
     qsizetype from = 0;
@@ -335,6 +172,19 @@ std::vector<PictureSlot> findJpegs(QByteArrayView block)
     }
 }
 
+/// What is told from its own bytes, wherever it stands: base64 text, files of other formats than JPEG, and
+/// TIFF structures inside the block.
+Slots findEmbedded(QByteArrayView block)
+{
+    Slots result = findBase64Pictures(block);
+    for (const ByteRange &file : findPictureFiles(block))
+        result.push_back({PictureSlot::Fill::Zeros, file.begin, file.length, {}});
+    append(result, findNestedTiffPictures(block));
+    return result;
+}
+
+} // namespace
+
 std::vector<PictureSlot> findBase64Pictures(QByteArrayView block)
 {
     Slots result;
@@ -346,14 +196,11 @@ std::vector<PictureSlot> findBase64Pictures(QByteArrayView block)
 std::vector<PictureSlot> findExifPictures(QByteArrayView block)
 {
     Slots result = findJpegs(block);
-    const std::optional<TiffStructure> tiff = TiffStructure::read(block);
-    const Slots declared = tiff ? ExifDirectories(block, *tiff).find() : Slots();
+    const Slots declared = findTiffPictures(block);
     for (PictureSlot &jpeg : result)
         shorten(jpeg, block, declared);
-    append(result, findBase64Pictures(block));
-    append(result, findOtherFiles(block));
     append(result, declared);
-    append(result, findNestedTiffPictures(block));
+    append(result, findEmbedded(block));
     return result;
 }
 
@@ -361,9 +208,7 @@ std::vector<PictureSlot> findPhotoshopPictures(QByteArrayView block)
 {
     constexpr qsizetype thumbnailHeader = 28;
     Slots result = findJpegs(block);
-    append(result, findBase64Pictures(block));
-    append(result, findOtherFiles(block));
-    append(result, findNestedTiffPictures(block));
+    append(result, findEmbedded(block));
     for (const auto &[id, begin, length] : readPhotoshopResources(block)) {
         const bool isThumbnail = id == PhotoshopResource::Thumbnail || id == PhotoshopResource::OldThumbnail;
         if (id == PhotoshopResource::Iptc)
