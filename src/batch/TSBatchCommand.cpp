@@ -119,6 +119,8 @@ int TSBatchCommand::exportAll()
         return TSBatchStatus::WrongUsage;
     }
     warnOfFonts();
+    if (!isExportWanted())
+        warnOfRefusals();
     const bool isSaved = saveProfile();
     const bool isComplete = !isExportWanted() || writePhotos();
     if (m_run.isCancelled)
@@ -162,6 +164,14 @@ void TSBatchCommand::warnOfFonts()
         if (!platform::isFontFamilyAvailable(family))
             m_reporter.warning(
                 QStringLiteral("the font %1 is not installed; another one stands in for it").arg(family));
+}
+
+/// An export tells of them in their place among the photos.
+void TSBatchCommand::warnOfRefusals()
+{
+    for (const Entry &entry : m_entries)
+        if (entry.refusal)
+            m_reporter.warning(QStringLiteral("%1: %2").arg(entry.source, entry.refusal->reason));
 }
 
 void TSBatchCommand::takePhotosIn()

@@ -35,6 +35,7 @@ private:
     bool writePhotos();
     bool saveProfile();
     void warnOfFonts();
+    void warnOfRefusals();
     void takePhotosIn();
     QString outputFolder() const;
     bool publishCanvas();

@@ -312,3 +312,9 @@ TEST_F(CommandTest, NamesMayBeAsLongAsTheyCanBeAndHoldAnything)
     EXPECT_EQ(run({"--name", QString(252, u'n'), "--output", outFolder()}, {longest}), 1);
     EXPECT_TRUE(errors.contains("The name is too long.")) << errors.constData();
 }
+
+TEST_F(CommandTest, APhotoThatAProfileCannotBeLaidOutOnIsNamed)
+{
+    EXPECT_EQ(run({"--text", "a", "--save-profile", "Mine"}, {"gone.jpg"}), TSBatchStatus::SomeNotWritten);
+    EXPECT_TRUE(errors.contains("gone.jpg: There is no such file.")) << errors.constData();
+}
