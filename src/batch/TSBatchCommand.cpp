@@ -26,9 +26,6 @@ using Status = TSExportOutcome::Status;
 
 namespace {
 
-/// 20000 by 20000: what the window asks about, the command does not make.
-constexpr double largestOutput = 400000000;
-
 TSBatchReporter::Form formFor(const TSBatchOptions &options)
 {
     if (options.isJson)
@@ -102,7 +99,8 @@ TSBatchCommand::TSBatchCommand(const TSBatchOptions &options, TSBatchReporter &r
     : m_options(options), m_reporter(reporter), m_run(*this)
 {
     m_run.isDryRun = options.isDryRun;
-    m_run.largestOutput = largestOutput;
+    // There is nobody to ask, and few mean it.
+    m_run.largestOutput = TSExportRun::biggestWithoutAsking;
     // A photo that could not be taken in is an original all the same.
     m_run.keptFiles = options.photos;
     collectPictures(options.marks, m_run.keptFiles);

@@ -2,7 +2,6 @@
 
 #include "batch/TSBatchListFile.h"
 #include "batch/TSBatchValues.h"
-#include "export/TSExportHost.h"
 #include "naming/TSPatternParser.h"
 #include "platform/FontChoice.h"
 #include "platform/ImageFile.h"
