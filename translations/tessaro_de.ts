@@ -591,6 +591,10 @@
         <source>The file may not be read: permission is missing.</source>
         <translation>Die Datei darf nicht gelesen werden: Die Berechtigung fehlt.</translation>
     </message>
+    <message id="The file's name is not in UTF-8; rename it.">
+        <source>The file's name is not in UTF-8; rename it.</source>
+        <translation>Der Name der Datei ist nicht in UTF-8; bitte benennen Sie sie um.</translation>
+    </message>
     <message id="The folder %1 could not be made.">
         <source>The folder %1 could not be made.</source>
         <translation>Der Ordner %1 konnte nicht angelegt werden.</translation>

@@ -591,6 +591,10 @@
         <source>The file may not be read: permission is missing.</source>
         <translation>The file may not be read: permission is missing.</translation>
     </message>
+    <message id="The file's name is not in UTF-8; rename it.">
+        <source>The file's name is not in UTF-8; rename it.</source>
+        <translation>The file's name is not in UTF-8; rename it.</translation>
+    </message>
     <message id="The folder %1 could not be made.">
         <source>The folder %1 could not be made.</source>
         <translation>The folder %1 could not be made.</translation>

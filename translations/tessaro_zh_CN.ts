@@ -587,6 +587,10 @@
         <source>The file may not be read: permission is missing.</source>
         <translation>无法读取文件：没有权限。</translation>
     </message>
+    <message id="The file's name is not in UTF-8; rename it.">
+        <source>The file's name is not in UTF-8; rename it.</source>
+        <translation>文件名不是 UTF-8 编码，请重命名该文件。</translation>
+    </message>
     <message id="The folder %1 could not be made.">
         <source>The folder %1 could not be made.</source>
         <translation>无法创建文件夹 %1。</translation>

@@ -26,9 +26,6 @@ using Status = TSExportOutcome::Status;
 
 namespace {
 
-/// 20000 by 20000: what the window asks about, the command does not make.
-constexpr double largestOutput = 400000000;
-
 TSBatchReporter::Form formFor(const TSBatchOptions &options)
 {
     if (options.isJson)
@@ -102,7 +99,8 @@ TSBatchCommand::TSBatchCommand(const TSBatchOptions &options, TSBatchReporter &r
     : m_options(options), m_reporter(reporter), m_run(*this)
 {
     m_run.isDryRun = options.isDryRun;
-    m_run.largestOutput = largestOutput;
+    // There is nobody to ask, and few mean it.
+    m_run.largestOutput = TSExportRun::biggestWithoutAsking;
     // A photo that could not be taken in is an original all the same.
     m_run.keptFiles = options.photos;
     collectPictures(options.marks, m_run.keptFiles);
@@ -119,6 +117,8 @@ int TSBatchCommand::exportAll()
         return TSBatchStatus::WrongUsage;
     }
     warnOfFonts();
+    if (!isExportWanted())
+        warnOfRefusals();
     const bool isSaved = saveProfile();
     const bool isComplete = !isExportWanted() || writePhotos();
     if (m_run.isCancelled)
@@ -164,12 +164,22 @@ void TSBatchCommand::warnOfFonts()
                 QStringLiteral("the font %1 is not installed; another one stands in for it").arg(family));
 }
 
+/// An export tells of them in their place among the photos.
+void TSBatchCommand::warnOfRefusals()
+{
+    for (const Entry &entry : m_entries)
+        if (entry.refusal)
+            m_reporter.warning(QStringLiteral("%1: %2").arg(entry.source, entry.refusal->reason));
+}
+
 void TSBatchCommand::takePhotosIn()
 {
     TSPhotoIntake intake(TSOverlayManager::overlayManager(), this);
     for (const QString &path : m_options.photos) {
-        if (m_run.isCancelled)
-            return;
+        if (m_run.isCancelled) {
+            m_entries.push_back({path});
+            continue;
+        }
         m_givenPath = path;
         const QFileInfo info(path);
         intake.addItemsWithURLs({QDir::cleanPath(info.absoluteFilePath())}, false);
@@ -178,7 +188,7 @@ void TSBatchCommand::takePhotosIn()
 
 void TSBatchCommand::photoWasAdded(const QString &, qint64 index)
 {
-    m_entries.push_back({m_givenPath, index, {}});
+    m_entries.push_back({m_givenPath, index});
 }
 
 void TSBatchCommand::fileWasRefused(const QString &path, const QString &reason)
@@ -246,31 +256,41 @@ void TSBatchCommand::photoIsDone(qint64 index, const TSExportOutcome &outcome)
 void TSBatchCommand::tellEntriesBefore(qint64 photo)
 {
     for (; m_told < m_entries.size() && m_entries[m_told].photo != photo; ++m_told)
-        m_reporter.photo(m_entries[m_told].source, m_entries[m_told].refusal);
+        m_reporter.photo(m_entries[m_told].source, m_entries[m_told].refusal.value_or(TSExportOutcome()));
+}
+
+/// Why the run came to an end before all photos had their turn.
+TSExportOutcome TSBatchCommand::outcomeOfRest() const
+{
+    TSExportOutcome outcome;
+    outcome.status = Status::Skipped;
+    if (m_run.isCancelled) {
+        outcome.reason = QStringLiteral("The export was cancelled.");
+    } else if (TSIsDirectory(outputFolder())) {
+        outcome.reason = QStringLiteral("The run was stopped before this photo.");
+    } else {
+        outcome.status = Status::Failed;
+        outcome.reason = TSFileExists(outputFolder()) ? QStringLiteral("%1 is not a folder.")
+                                                      : QStringLiteral("The folder %1 does not exist.");
+        outcome.reason = outcome.reason.arg(outputFolder());
+    }
+    return outcome;
 }
 
 void TSBatchCommand::tellRest()
 {
-    TSExportOutcome untouched;
-    untouched.status = m_run.isCancelled ? Status::Skipped : Status::Failed;
-    untouched.reason = QStringLiteral("The export was cancelled.");
-    if (!m_run.isCancelled) {
-        const bool hasFolder = TSIsDirectory(outputFolder());
-        untouched.status = hasFolder ? Status::Skipped : Status::Failed;
-        untouched.reason = hasFolder ? QStringLiteral("The run was stopped before this photo.")
-                                     : QStringLiteral("The folder %1 does not exist.").arg(m_options.output);
-    }
+    const TSExportOutcome outcome = outcomeOfRest();
     qint64 count = 0;
     for (; m_told < m_entries.size(); ++m_told) {
         const Entry &entry = m_entries[m_told];
-        if (entry.photo < 0 || untouched.status == Status::Failed) {
-            m_reporter.photo(entry.source, entry.photo < 0 ? entry.refusal : untouched);
+        if (entry.refusal || outcome.status == Status::Failed) {
+            m_reporter.photo(entry.source, entry.refusal.value_or(outcome));
             continue;
         }
-        m_reporter.untouched(entry.source, untouched);
+        m_reporter.untouched(entry.source, outcome);
         ++count;
     }
     // One by one, a list that was cancelled early would bury what else there is to say.
     if (count > 0)
-        m_reporter.warning(QStringLiteral("%1 not begun: %2").arg(count).arg(untouched.reason));
+        m_reporter.warning(QStringLiteral("%1 not begun: %2").arg(count).arg(outcome.reason));
 }

@@ -21,11 +21,11 @@ public:
     static int run(const QStringList &arguments);
 
 private:
-    /// A photo of the list, or a file that gave none.
+    /// A photo of the list, a file that gave none, or with neither a file that was not come to.
     struct Entry {
         QString source;
         qint64 photo = -1;
-        TSExportOutcome refusal;
+        std::optional<TSExportOutcome> refusal = std::nullopt;
     };
 
     TSBatchCommand(const TSBatchOptions &options, TSBatchReporter &reporter);
@@ -35,6 +35,7 @@ private:
     bool writePhotos();
     bool saveProfile();
     void warnOfFonts();
+    void warnOfRefusals();
     void takePhotosIn();
     QString outputFolder() const;
     bool publishCanvas();
@@ -42,6 +43,7 @@ private:
     void nameOutputs();
     void tellEntriesBefore(qint64 photo);
     void tellRest();
+    TSExportOutcome outcomeOfRest() const;
 
     bool continueWithBiggerPhoto() override { return true; }
     void sourceIsMissing(const QString &) override {}

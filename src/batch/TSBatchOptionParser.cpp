@@ -2,7 +2,6 @@
 
 #include "batch/TSBatchListFile.h"
 #include "batch/TSBatchValues.h"
-#include "export/TSExportHost.h"
 #include "naming/TSPatternParser.h"
 #include "platform/FontChoice.h"
 #include "platform/ImageFile.h"
@@ -341,9 +340,45 @@ Problem addPhoto(Parse &parse, const QString &argument)
     return std::nullopt;
 }
 
-TSBatchOptionParser::Result failed(const QString &error, const QString &usage)
+/// What is wrong with a command, and the usage line that tells how it is right.
+struct Mistake {
+    QString error;
+    QString usage;
+};
+
+/// Reads the option at a position, its value joined to it by "=" or in the next argument, and passes over
+/// both.
+std::optional<Mistake> readOption(Parse &parse, const QStringList &arguments, qsizetype &at)
 {
-    return {{}, error, usage};
+    const QString &argument = arguments[at++];
+    const QString name = argument.section(u'=', 0, 0);
+    const Option *option = name.startsWith(u"--") ? findOption(name.mid(2)) : nullptr;
+    if (!option)
+        return Mistake{QStringLiteral("there is no option %1").arg(name), QLatin1String(generalUsage)};
+    const bool wantsValue = *option->value;
+    const bool isJoined = argument.contains(u'=');
+    if (isJoined && !wantsValue)
+        return Mistake{QStringLiteral("%1 takes no value").arg(name), usageOf(*option)};
+    const bool takesNext = wantsValue && !isJoined;
+    if (takesNext && at == arguments.size())
+        return Mistake{QStringLiteral("%1 needs a value").arg(name), usageOf(*option)};
+    const Problem problem = option->apply(parse, takesNext ? arguments[at++] : argument.section(u'=', 1));
+    if (problem)
+        return Mistake{QStringLiteral("%1: %2").arg(name, *problem), usageOf(*option)};
+    return std::nullopt;
+}
+
+/// The same for any argument; behind "--" there are photos alone.
+std::optional<Mistake> readArgument(Parse &parse, const QStringList &arguments, qsizetype &at)
+{
+    const QString &argument = arguments[at];
+    const bool isOption = !parse.optionsHaveEnded && argument.startsWith(u'-') && argument.size() > 1;
+    if (isOption && argument != u"--")
+        return readOption(parse, arguments, at);
+    ++at;
+    parse.optionsHaveEnded = parse.optionsHaveEnded || isOption;
+    const Problem problem = isOption ? std::nullopt : addPhoto(parse, argument);
+    return problem ? std::optional(Mistake{*problem, QLatin1String(generalUsage)}) : std::nullopt;
 }
 
 Problem checkWhole(const TSBatchOptions &options)
@@ -363,42 +398,13 @@ TSBatchOptionParser::Result TSBatchOptionParser::parse(const QStringList &argume
 {
     Parse parse;
     parse.options.name = TSPatternParser::namePattern(u"{Name}").values;
-    for (qsizetype i = 0; i < arguments.size(); ++i) {
-        const QString &argument = arguments[i];
-        const bool isOption = argument.startsWith(u'-') && argument.size() > 1;
-        if (parse.optionsHaveEnded || !isOption) {
-            if (const Problem problem = addPhoto(parse, argument))
-                return failed(*problem, QLatin1String(generalUsage));
-            continue;
-        }
-        if (argument == u"--") {
-            parse.optionsHaveEnded = true;
-            continue;
-        }
-        const Option *option =
-            argument.startsWith(u"--") ? findOption(argument.section(u'=', 0, 0).mid(2)) : nullptr;
-        if (!option)
-            return failed(QStringLiteral("there is no option %1").arg(argument.section(u'=', 0, 0)),
-                          QLatin1String(generalUsage));
-        QString value;
-        const bool isJoined = argument.contains(u'=');
-        if (*option->value) {
-            if (!isJoined && ++i >= arguments.size())
-                return failed(QStringLiteral("--%1 needs a value").arg(QLatin1String(option->name)),
-                              usageOf(*option));
-            value = isJoined ? argument.section(u'=', 1) : arguments[i];
-        } else if (isJoined) {
-            return failed(QStringLiteral("--%1 takes no value").arg(QLatin1String(option->name)),
-                          usageOf(*option));
-        }
-        if (const Problem problem = option->apply(parse, value))
-            return failed(QStringLiteral("--%1: %2").arg(QLatin1String(option->name), *problem),
-                          usageOf(*option));
-    }
+    for (qsizetype at = 0; at < arguments.size();)
+        if (const std::optional<Mistake> mistake = readArgument(parse, arguments, at))
+            return {{}, mistake->error, mistake->usage};
     if (parse.options.wantsHelp || parse.options.wantsVersion || parse.options.wantsProfiles)
         return {parse.options, {}, {}};
     if (const Problem problem = checkWhole(parse.options))
-        return failed(*problem, QLatin1String(generalUsage));
+        return {{}, *problem, QLatin1String(generalUsage)};
     return {parse.options, {}, {}};
 }
 

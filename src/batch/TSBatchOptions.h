@@ -1,5 +1,6 @@
 #pragma once
 
+#include "export/TSExportHost.h"
 #include "naming/TSTokenValue.h"
 #include "platform/TextAttributes.h"
 #include "session/TSOutputCodes.h"
@@ -76,7 +77,7 @@ struct TSBatchOptions {
     /// The name to save the marks under, or nothing.
     QString savedProfile;
     /// A `TSConflictChoice`.
-    int conflict = 1;
+    int conflict = TSConflictChoice::Rename;
 
     bool isJson = false;
     bool isDryRun = false;

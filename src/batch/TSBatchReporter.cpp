@@ -15,6 +15,22 @@ void put(std::FILE *to, const QString &line)
     std::fflush(to);
 }
 
+/// Names of files may hold line feeds and what terminals take for commands; each line of ours is to stay one,
+/// and to show what it names.
+QString visible(const QString &text)
+{
+    QString result;
+    for (const QChar c : text) {
+        if (c == u'\n')
+            result += QStringLiteral("\\n");
+        else if (c.category() == QChar::Other_Control)
+            result += QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QLatin1Char('0'));
+        else
+            result += c;
+    }
+    return result;
+}
+
 QString nameOf(Status status)
 {
     switch (status) {
@@ -65,8 +81,8 @@ void TSBatchReporter::photo(const QString &source, const TSExportOutcome &outcom
         progressLine();
     else if (outcome.status == Status::Written || isPlanned)
         put(stdout, QStringLiteral("%1 -> %2 (%3 x %4)\n")
-                        .arg(source, outcome.targetPath, QString::number(outcome.size.width()),
-                             QString::number(outcome.size.height())));
+                        .arg(visible(source), visible(outcome.targetPath),
+                             QString::number(outcome.size.width()), QString::number(outcome.size.height())));
 }
 
 void TSBatchReporter::untouched(const QString &source, const TSExportOutcome &outcome)
@@ -133,7 +149,7 @@ void TSBatchReporter::clearProgressLine()
 void TSBatchReporter::warning(const QString &text)
 {
     clearProgressLine();
-    put(stderr, QStringLiteral("tessaro-batch: %1\n").arg(text));
+    put(stderr, QStringLiteral("tessaro-batch: %1\n").arg(visible(text)));
 }
 
 QString TSBatchReporter::summary() const

@@ -20,7 +20,7 @@ TSBatchSignals::TSBatchSignals(std::atomic<bool> &flag)
     action.sa_handler = raiseFlag;
     action.sa_flags = SA_RESTART;
     sigemptyset(&action.sa_mask);
-    for (int i = 0; i < 3; ++i)
+    for (size_t i = 0; i < std::size(handled); ++i)
         sigaction(handled[i], &action, &m_before[i]);
     action.sa_handler = SIG_IGN;
     sigaction(SIGPIPE, &action, &m_pipeBefore);
@@ -28,7 +28,7 @@ TSBatchSignals::TSBatchSignals(std::atomic<bool> &flag)
 
 TSBatchSignals::~TSBatchSignals()
 {
-    for (int i = 0; i < 3; ++i)
+    for (size_t i = 0; i < std::size(handled); ++i)
         sigaction(handled[i], &m_before[i], nullptr);
     sigaction(SIGPIPE, &m_pipeBefore, nullptr);
     raisedFlag = nullptr;

@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <csignal>
+#include <iterator>
 
 /// While it lives, an interrupt, a request to end or a lost terminal sets a flag, and a reader that has gone
 /// away is no reason to end. One at a time in a process.
@@ -15,6 +16,6 @@ public:
 private:
     static constexpr int handled[] = {SIGINT, SIGTERM, SIGHUP};
 
-    struct sigaction m_before[3];
+    struct sigaction m_before[std::size(handled)];
     struct sigaction m_pipeBefore;
 };

@@ -11,9 +11,6 @@ using Status = TSExportOutcome::Status;
 
 namespace {
 
-/// 20000 by 20000.
-constexpr double biggestWithoutAsking = 400000000;
-
 QSizeF outputSize(const TSPhoto &photo)
 {
     const TSDataManager *data = TSDataManager::dataManager();

@@ -27,6 +27,8 @@ public:
 
     /// Goes through everything but writes no file: each photo's outcome tells the name it would get.
     bool isDryRun = false;
+    /// In pixels, which is 20000 by 20000: whoever exports more is asked first.
+    static constexpr double biggestWithoutAsking = 400000000;
     /// A photo whose output has more pixels than this is not made; 0 for no limit.
     double largestOutput = 0;
     /// Files that are no more written to than the photos of the list.
@@ -34,12 +36,13 @@ public:
     /// Called for each photo of a dry run with the places of its marks.
     std::function<void(qint64 index, const std::vector<TSMarkPlacement> &)> placed;
 
+    /// A folder that is not there ends the run without a word to the host.
     void savePhotos(const QString &folder);
     /// Every path that a write was attempted to, in order, whether it worked or not.
     const QStringList &savedPaths() const { return m_savedPaths; }
     qint64 savedCount() const { return m_savedCount; }
 
-    /// Computes the output sizes of all photos, and answers whether one is above 400000000 pixels.
+    /// Computes the output sizes of all photos, and answers whether one is above `biggestWithoutAsking`.
     static bool isHasBiggerPhoto();
 
 private:

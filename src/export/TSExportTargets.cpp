@@ -33,18 +33,13 @@ QString TSExportTargets::path(const QString &name) const
 
 QString TSExportTargets::uniquePath(const QString &name) const
 {
-    const QString &format = TSDataManager::dataManager()->exportFormat;
-    QString path = TSUniquePath(m_folder, name, format);
-    // Names that a dry run has given out are not on the disk.
-    for (int number = 1; isTaken(path); ++number)
-        path = QStringLiteral("%1/%2_%3.%4")
-                   .arg(m_folder, name, QStringLiteral("%1").arg(number, 3, 10, QLatin1Char('0')), format);
-    return path;
+    return TSUniquePath(m_folder, name, TSDataManager::dataManager()->exportFormat,
+                        [this](const QString &path) { return isTaken(path); });
 }
 
 bool TSExportTargets::isTaken(const QString &path) const
 {
-    return TSFileExists(path) || m_planned.contains(path);
+    return m_planned.contains(path) || TSFileExists(path);
 }
 
 bool TSExportTargets::isOriginal(const QString &path) const

@@ -1,12 +1,23 @@
 #include "platform/AtomicFile.h"
 
+#include <cstdio>
+#include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QStorageInfo>
+#include <QUuid>
 
 namespace platform {
 
 namespace {
+
+/// In bytes, for the file systems that photos lie on.
+constexpr qsizetype longestName = 255;
+
+qsizetype nameLength(const QString &path)
+{
+    return QFile::encodeName(QFileInfo(path).fileName()).size();
+}
 
 QString reasonForFailure(const QString &path, qsizetype length, const QString &fallback)
 {
@@ -15,6 +26,8 @@ QString reasonForFailure(const QString &path, qsizetype length, const QString &f
         return qtTrId("The folder %1 does not exist.").arg(folder.filePath());
     if (!folder.isDir())
         return qtTrId("%1 is not a folder.").arg(folder.filePath());
+    if (nameLength(path) > longestName)
+        return qtTrId("The name is too long.");
     if (QFileInfo(path).isDir())
         return qtTrId("A folder stands under the name %1.").arg(path);
     if (!folder.isWritable())
@@ -22,6 +35,26 @@ QString reasonForFailure(const QString &path, qsizetype length, const QString &f
     if (const QStorageInfo disk(folder.filePath()); disk.isValid() && disk.bytesAvailable() < length)
         return qtTrId("The disk is full.");
     return qtTrId("The file could not be written: %1.").arg(fallback);
+}
+
+/// The toolkit's temporary file is named after the target and has a longer name. Where that would be too
+/// long, the bytes go to another beside it first.
+QString firstPath(const QString &path)
+{
+    constexpr qsizetype addition = 8;
+    const qsizetype length = nameLength(path);
+    if (length + addition <= longestName || length > longestName)
+        return path;
+    return QStringLiteral("%1/.%2").arg(QFileInfo(path).path(), QUuid::createUuid().toString(QUuid::Id128));
+}
+
+bool takeName(const QString &from, const QString &path)
+{
+    if (from == path ||
+        std::rename(QFile::encodeName(from).constData(), QFile::encodeName(path).constData()) == 0)
+        return true;
+    QFile::remove(from);
+    return false;
 }
 
 } // namespace
@@ -35,8 +68,8 @@ QString writeFileAtomically(const QString &path, const QByteArray &bytes)
 QString writeFileAtomically(const QString &path, qsizetype length,
                             const std::function<bool(QIODevice &)> &write)
 {
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && write(file) && file.commit())
+    QSaveFile file(firstPath(path));
+    if (file.open(QIODevice::WriteOnly) && write(file) && file.commit() && takeName(file.fileName(), path))
         return {};
     return reasonForFailure(path, length, file.errorString());
 }

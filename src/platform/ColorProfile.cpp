@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdlib>
 #include <mutex>
+#include <QColorSpace>
 
 namespace platform {
 
@@ -37,7 +38,7 @@ std::array<uchar, probeCount * 3> probeColors()
 
 /// Most cameras embed sRGB in one wording or another. Whether a profile is it shows in what it does to
 /// colours, and knowing that saves the conversion of every pixel.
-bool movesColors(const void *profile, size_t length)
+bool movesColors(QByteArrayView profile)
 {
     const auto colors = probeColors();
     VipsImagePtr probe(
@@ -45,7 +46,7 @@ bool movesColors(const void *profile, size_t length)
     if (!probe)
         return true;
     probe->Type = VIPS_INTERPRETATION_sRGB;
-    vips_image_set_blob_copy(probe.get(), VIPS_META_ICC_NAME, profile, length);
+    vips_image_set_blob_copy(probe.get(), VIPS_META_ICC_NAME, profile.data(), size_t(profile.size()));
     const VipsImagePtr moved = transformed(probe.get());
     size_t size = 0;
     auto *bytes = moved ? static_cast<uchar *>(vips_image_write_to_memory(moved.get(), &size)) : nullptr;
@@ -60,18 +61,37 @@ bool movesColors(const void *profile, size_t length)
 }
 
 /// The photos of a batch mostly carry one profile, so the last answer is kept.
-bool isSRGB(const void *profile, size_t length)
+bool isSRGB(QByteArrayView profile)
 {
     static std::mutex mutex;
     static QByteArray lastProfile;
     static bool lastAnswer = false;
     const std::lock_guard lock(mutex);
-    const QByteArray bytes(static_cast<const char *>(profile), qsizetype(length));
-    if (bytes != lastProfile) {
-        lastAnswer = !movesColors(profile, length);
-        lastProfile = bytes;
+    if (profile != lastProfile) {
+        lastAnswer = !movesColors(profile);
+        lastProfile = profile.toByteArray();
     }
     return lastAnswer;
+}
+
+/// Cameras that shoot in Adobe RGB say so in the EXIF block, by the name of the file rules that they keep to,
+/// and many embed no profile.
+bool isAdobeRGBByCamera(VipsImage *image)
+{
+    constexpr const char *field = "exif-ifd4-InteroperabilityIndex";
+    const char *rules = nullptr;
+    return vips_image_get_typeof(image, field) && !vips_image_get_string(image, field, &rules) &&
+           QByteArrayView(rules).startsWith("R03");
+}
+
+VipsImagePtr withAdobeRGBProfile(VipsImage *image)
+{
+    static const QByteArray profile = QColorSpace(QColorSpace::AdobeRgb).iccProfile();
+    VipsImage *copy = nullptr;
+    if (vips_copy(image, &copy, nullptr))
+        return nullptr;
+    vips_image_set_blob_copy(copy, VIPS_META_ICC_NAME, profile.constData(), size_t(profile.size()));
+    return VipsImagePtr(copy);
 }
 
 bool isPlainRGB(const VipsImage *image)
@@ -100,14 +120,13 @@ QByteArray sRGBProfile()
 
 VipsImagePtr toSRGBByProfile(VipsImage *image)
 {
-    const void *profile = nullptr;
-    size_t length = 0;
-    if (!vips_image_get_typeof(image, VIPS_META_ICC_NAME) ||
-        vips_image_get_blob(image, VIPS_META_ICC_NAME, &profile, &length))
-        return nullptr;
-    if (isPlainRGB(image) && isSRGB(profile, length))
-        return nullptr;
-    return transformed(image);
+    const QByteArrayView profile = attachedBytes(image, VIPS_META_ICC_NAME);
+    if (profile.isEmpty()) {
+        const bool isAdobe = isPlainRGB(image) && isAdobeRGBByCamera(image);
+        const VipsImagePtr profiled = isAdobe ? withAdobeRGBProfile(image) : nullptr;
+        return profiled ? transformed(profiled.get()) : nullptr;
+    }
+    return isPlainRGB(image) && isSRGB(profile) ? nullptr : transformed(image);
 }
 
 } // namespace platform

@@ -4,6 +4,7 @@
 #include "platform/LazyImage.h"
 #include "platform/Thumbnail.h"
 #include "platform/TiffStructure.h"
+#include "platform/TiffTags.h"
 
 #include <algorithm>
 #include <cstring>
@@ -19,10 +20,7 @@ namespace {
 /// What a picture of several frames takes from the first of them, though each may have its own.
 bool isTakenFromFirst(quint16 tag)
 {
-    constexpr quint16 orientation = 274;
-    constexpr quint16 palette = 320;
-    constexpr quint16 profile = 34675;
-    return tag == orientation || tag == palette || tag == profile;
+    return tag == tifftag::Orientation || tag == tifftag::Palette || tag == tifftag::ColorProfile;
 }
 
 using Values = std::vector<std::pair<quint16, QByteArrayView>>;
@@ -61,11 +59,8 @@ VipsImagePtr emptyFrame(VipsImage *roll, int height)
     VipsImagePtr frame(vips_image_new_memory());
     vips_image_init_fields(frame.get(), roll->Xsize, height, roll->Bands, roll->BandFmt, VIPS_CODING_NONE,
                            roll->Type, 1, 1);
-    const void *profile = nullptr;
-    size_t length = 0;
-    if (vips_image_get_typeof(roll, VIPS_META_ICC_NAME) &&
-        !vips_image_get_blob(roll, VIPS_META_ICC_NAME, &profile, &length))
-        vips_image_set_blob_copy(frame.get(), VIPS_META_ICC_NAME, profile, length);
+    if (const QByteArrayView profile = attachedBytes(roll, VIPS_META_ICC_NAME); !profile.isEmpty())
+        vips_image_set_blob_copy(frame.get(), VIPS_META_ICC_NAME, profile.data(), size_t(profile.size()));
     vips_image_set_int(frame.get(), VIPS_META_ORIENTATION, vips_image_get_orientation(roll));
     return vips_image_write_prepare(frame.get()) ? nullptr : std::move(frame);
 }

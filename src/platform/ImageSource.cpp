@@ -4,11 +4,13 @@
 #include "platform/VipsMemory.h"
 
 #include <array>
+#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
+#include <QtEndian>
 
 namespace platform {
 
@@ -45,11 +47,33 @@ Format formatOfLoader(const char *loader)
     return Format::None;
 }
 
+/// Whether a Windows bitmap's file is as long as its header asks for. The toolkit's reader takes one that
+/// breaks off for whole, and what then stands in the missing rows is whatever the memory held before.
+bool isWholeBitmap(QFile &file)
+{
+    constexpr qsizetype fullHeader = 34;
+    constexpr quint32 oldHeader = 12;
+    const QByteArray head = file.peek(fullHeader);
+    if (head.size() < fullHeader)
+        return false;
+    const auto number = [&](qsizetype at) { return qFromLittleEndian<quint32>(head.constData() + at); };
+    const auto shortNumber = [&](qsizetype at) { return qFromLittleEndian<quint16>(head.constData() + at); };
+    const bool isOld = number(14) == oldHeader;
+    const bool isCompressed = !isOld && number(30) != 0 && number(30) != 3;
+    const qint64 width = isOld ? shortNumber(18) : qint32(number(18));
+    const qint64 height = isOld ? shortNumber(22) : std::abs(qint64(qint32(number(22))));
+    const qint64 rowLength = (width * shortNumber(isOld ? 24 : 28) + 31) / 32 * 4;
+    // How long compressed pixels are shows when they are read; the header tells it, too.
+    const double end =
+        isCompressed ? double(number(2)) : double(number(10)) + double(rowLength) * double(height);
+    return double(file.size()) >= end;
+}
+
 /// libvips reads Windows bitmaps only through a library that would also read hundreds of other things.
 VipsImagePtr openBitmap(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.peek(2) != "BM")
+    if (!file.open(QIODevice::ReadOnly) || file.peek(2) != "BM" || !isWholeBitmap(file))
         return nullptr;
     return vipsImageFrom(QImage(path, "BMP"));
 }

@@ -111,8 +111,7 @@ std::optional<JpegStream> JpegStream::read(QByteArrayView bytes, qsizetype begin
     JpegStream stream;
     Walker walker(bytes, begin + 2, garbage);
     while (const std::optional<quint8> marker = walker.nextMarker()) {
-        stream.m_hasEndMarker = *marker == jpeg::EndOfImage;
-        if (stream.m_hasEndMarker)
+        if (*marker == jpeg::EndOfImage)
             break;
         const std::optional<QByteArrayView> payload = walker.nextPayload();
         if (!payload)

@@ -47,7 +47,6 @@ public:
     std::optional<QSize> chromaSampling() const;
     /// Behind the end marker or, without one, behind the last byte that may belong to the picture.
     qsizetype end() const { return m_end; }
-    bool hasEndMarker() const { return m_hasEndMarker; }
 
 private:
     void take(const JpegSegment &segment);
@@ -57,7 +56,6 @@ private:
     QByteArrayView m_frame;
     qsizetype m_end = 0;
     bool m_hasData = false;
-    bool m_hasEndMarker = false;
 };
 
 namespace jpeg {

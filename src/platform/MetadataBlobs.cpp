@@ -2,6 +2,7 @@
 
 #include "platform/Exiv2Library.h"
 #include "platform/TiffStructure.h"
+#include "platform/TiffTags.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -11,37 +12,28 @@ namespace platform {
 
 namespace {
 
-QByteArray blob(VipsImage *image, const char *name)
-{
-    const void *data = nullptr;
-    size_t length = 0;
-    if (vips_image_get_typeof(image, name) == 0 || vips_image_get_blob(image, name, &data, &length) != 0)
-        return {};
-    return {static_cast<const char *>(data), qsizetype(length)};
-}
-
 QByteArray xmpPacket(VipsImage *image)
 {
-    QByteArray packet = blob(image, VIPS_META_XMP_NAME);
+    QByteArray packet = attachedBytes(image, VIPS_META_XMP_NAME).toByteArray();
     gchar **fields = vips_image_get_fields(image);
     // The HEIF loader knows the type of the block and not what it is for.
     for (gchar **field = fields; packet.isEmpty() && *field; ++field) {
-        const QByteArray data =
-            QByteArrayView(*field).startsWith("heif-mime-") ? blob(image, *field) : QByteArray();
+        const QByteArrayView data =
+            QByteArrayView(*field).startsWith("heif-mime-") ? attachedBytes(image, *field) : QByteArrayView();
         if (data.contains("adobe:ns:meta/"))
-            packet = data;
+            packet = data.toByteArray();
     }
     g_strfreev(fields);
     return packet;
 }
 
 /// Decoders put the identifier of a JPEG segment before the header, or leave the one that stood in the file.
-QByteArray fromTiffHeader(const QByteArray &exif)
+QByteArray fromTiffHeader(QByteArrayView exif)
 {
     constexpr qsizetype longestPrefix = 16;
     for (qsizetype at = 0; at < std::min(longestPrefix, exif.size()); ++at) {
-        if (TiffStructure::read(QByteArrayView(exif).sliced(at)))
-            return exif.sliced(at);
+        if (TiffStructure::read(exif.sliced(at)))
+            return exif.sliced(at).toByteArray();
     }
     return {};
 }
@@ -58,13 +50,12 @@ bool turnsPixels(VipsImage *image)
 
 QByteArray uprightExif(QByteArray exif)
 {
-    constexpr quint16 orientationTag = 0x0112;
     const std::optional<TiffStructure> tiff = TiffStructure::read(exif);
     if (!tiff)
         return exif;
     const bool bigEndian = tiff->isBigEndian();
     for (const TiffStructure::Directory &directory : tiff->chain()) {
-        const TiffStructure::Entry *entry = directory.find(orientationTag);
+        const TiffStructure::Entry *entry = directory.find(tifftag::Orientation);
         if (!entry || entry->type != TiffStructure::Short)
             continue;
         const quint16 upright = bigEndian ? qToBigEndian<quint16>(1) : qToLittleEndian<quint16>(1);
@@ -123,7 +114,7 @@ try {
 
 MetadataBlobs metadataOfDecoder(VipsImage *image)
 {
-    return {fromTiffHeader(blob(image, VIPS_META_EXIF_NAME)), xmpPacket(image), {}};
+    return {fromTiffHeader(attachedBytes(image, VIPS_META_EXIF_NAME)), xmpPacket(image), {}};
 }
 
 MetadataBlobs readMetadataBlobs(const QString &path)

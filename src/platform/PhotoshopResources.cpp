@@ -1,6 +1,7 @@
 #include "platform/PhotoshopResources.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 #include <QtEndian>
 
@@ -14,11 +15,19 @@ constexpr qsizetype even(qsizetype length)
     return length + length % 2;
 }
 
+/// Other programs keep resources of their own among those of Photoshop.
+bool beginsResource(QByteArrayView bytes)
+{
+    static constexpr const char *signatures[] = {"8BIM", "MeSa", "AgHg", "PHUT", "DCSR"};
+    return std::any_of(std::begin(signatures), std::end(signatures),
+                       [&](const char *signature) { return bytes.startsWith(signature); });
+}
+
 std::optional<PhotoshopResource> resourceAt(QByteArrayView block, qsizetype at)
 {
     constexpr qsizetype fixedLength = 12;
     constexpr qsizetype nameField = 6;
-    if (at + fixedLength > block.size() || !block.sliced(at).startsWith("8BIM"))
+    if (at + fixedLength > block.size() || !beginsResource(block.sliced(at)))
         return {};
     PhotoshopResource resource;
     resource.id = qFromBigEndian<quint16>(block.data() + at + 4);

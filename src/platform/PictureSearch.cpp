@@ -2,19 +2,16 @@
 
 #include "platform/JpegStream.h"
 #include "platform/PhotoshopResources.h"
-#include "platform/TiffStructure.h"
+#include "platform/PictureFiles.h"
+#include "platform/TiffPictures.h"
 
 #include <algorithm>
-#include <cstring>
 #include <optional>
 #include <QtEndian>
 
 namespace platform {
 
 namespace {
-
-/// A size that no thumbnail or preview has, and that would only cost memory to fill.
-constexpr int LargestSide = 8192;
 
 using Slots = std::vector<PictureSlot>;
 
@@ -29,7 +26,8 @@ PictureSlot jpegSlot(const JpegStream &stream, qsizetype begin)
     constexpr qsizetype mostPixelsInByte = 256;
     const QSize size = stream.size();
     const qsizetype length = stream.end() - begin;
-    const bool isPlausible = !size.isEmpty() && std::max(size.width(), size.height()) <= LargestSide &&
+    const bool isPlausible = !size.isEmpty() &&
+                             std::max(size.width(), size.height()) <= PictureSlot::LargestSide &&
                              qsizetype(size.width()) * size.height() <= length * mostPixelsInByte;
     if (!isPlausible)
         return {PictureSlot::Fill::Zeros, begin, length, {}};
@@ -93,6 +91,7 @@ constexpr Base64Signature Base64Signatures[] = {
     {"SUkqA", 0},       // TIFF
     {"TU0AK", 0},       // TIFF
     {"AAAADEpYTCA", 0}, // JPEG XL
+    {"AAAADGpQICA", 0}, // JPEG 2000
 };
 
 bool beginsText(QByteArrayView block, qsizetype at)
@@ -116,11 +115,6 @@ void findBase64(QByteArrayView block, const Base64Signature &signature, Slots &f
     }
 }
 
-bool overlaps(const PictureSlot &a, qsizetype begin, qsizetype length)
-{
-    return a.begin < begin + length && begin < a.begin + a.length;
-}
-
 /// A picture that was cut off seems to run on to the end of the block, over whatever follows it. Where a
 /// directory tells its length, that is all it takes up.
 void shorten(PictureSlot &jpeg, QByteArrayView block, const Slots &declared)
@@ -131,141 +125,6 @@ void shorten(PictureSlot &jpeg, QByteArrayView block, const Slots &declared)
         if (slot.begin == jpeg.begin)
             jpeg.length = std::min(jpeg.length, slot.length);
     }
-}
-
-/// Finds the pictures that the directories of an EXIF block point to.
-class ExifDirectories {
-public:
-    ExifDirectories(QByteArrayView block, const TiffStructure &tiff) : m_block(block), m_tiff(tiff) {}
-    Slots find();
-
-private:
-    enum Tag : quint16 {
-        Width = 0x0100,
-        Height = 0x0101,
-        BitsPerSample = 0x0102,
-        Compression = 0x0103,
-        Photometric = 0x0106,
-        StripOffsets = 0x0111,
-        SamplesPerPixel = 0x0115,
-        StripByteCounts = 0x0117,
-        PlanarConfiguration = 0x011C,
-        SubDirectories = 0x014A,
-        JpegOffset = 0x0201,
-        JpegLength = 0x0202,
-        ExifDirectory = 0x8769,
-        GpsDirectory = 0x8825,
-        MakerNote = 0x927C,
-        InteroperabilityDirectory = 0xA005
-    };
-
-    void visit(const TiffStructure::Directory &directory, int depth);
-    void occupy(const TiffStructure::Directory &directory);
-    void addJpeg(const TiffStructure::Directory &directory);
-    void addStrips(const TiffStructure::Directory &directory);
-    void addRange(qsizetype begin, qsizetype length);
-    QSize pixelSize(const TiffStructure::Directory &directory) const;
-
-    QByteArrayView m_block;
-    const TiffStructure &m_tiff;
-    Slots m_declared;
-    /// What directories and the values of their tags take up.
-    Slots m_occupied;
-};
-
-Slots ExifDirectories::find()
-{
-    for (const TiffStructure::Directory &directory : m_tiff.chain())
-        visit(directory, 0);
-    // In damaged blocks the offsets point anywhere. What lies over tags is no picture, unless it begins like
-    // one.
-    const auto isLie = [this](const PictureSlot &slot) {
-        const bool looksLikeJpeg = slot.length > 2 && m_block.sliced(slot.begin + 1).startsWith("\xD8\xFF");
-        const auto overlapping = [&slot](const PictureSlot &other) {
-            return overlaps(other, slot.begin, slot.length);
-        };
-        return !looksLikeJpeg && std::any_of(m_occupied.begin(), m_occupied.end(), overlapping);
-    };
-    m_declared.erase(std::remove_if(m_declared.begin(), m_declared.end(), isLie), m_declared.end());
-    return m_declared;
-}
-
-void ExifDirectories::visit(const TiffStructure::Directory &directory, int depth)
-{
-    constexpr int deepest = 3;
-    constexpr size_t mostSubdirectories = 16;
-    occupy(directory);
-    addJpeg(directory);
-    addStrips(directory);
-    for (const quint16 tag : {SubDirectories, ExifDirectory, GpsDirectory, InteroperabilityDirectory}) {
-        const TiffStructure::Entry *entry = depth < deepest ? directory.find(tag) : nullptr;
-        std::vector<quint32> positions = entry ? m_tiff.numbers(*entry) : std::vector<quint32>();
-        positions.resize(std::min(positions.size(), mostSubdirectories));
-        for (const quint32 position : positions) {
-            if (const auto subdirectory = m_tiff.directoryAt(position))
-                visit(*subdirectory, depth + 1);
-        }
-    }
-}
-
-void ExifDirectories::occupy(const TiffStructure::Directory &directory)
-{
-    m_occupied.push_back({PictureSlot::Fill::Zeros, directory.position, directory.length, {}});
-    for (const TiffStructure::Entry &entry : directory.entries) {
-        // Cameras do keep the thumbnail inside their notes.
-        if (entry.tag != MakerNote && entry.length > 4)
-            m_occupied.push_back({PictureSlot::Fill::Zeros, entry.position, entry.length, {}});
-    }
-}
-
-void ExifDirectories::addJpeg(const TiffStructure::Directory &directory)
-{
-    const auto offset = m_tiff.number(directory, JpegOffset);
-    const auto length = m_tiff.number(directory, JpegLength);
-    if (offset && length)
-        addRange(*offset, *length);
-}
-
-void ExifDirectories::addRange(qsizetype begin, qsizetype length)
-{
-    constexpr qsizetype header = 8;
-    if (begin >= header && begin < m_block.size() && length > 0)
-        m_declared.push_back({PictureSlot::Fill::Zeros, begin, std::min(length, m_block.size() - begin), {}});
-}
-
-void ExifDirectories::addStrips(const TiffStructure::Directory &directory)
-{
-    const TiffStructure::Entry *offsets = directory.find(StripOffsets);
-    const TiffStructure::Entry *lengths = directory.find(StripByteCounts);
-    if (!offsets || !lengths)
-        return;
-    const std::vector<quint32> begins = m_tiff.numbers(*offsets);
-    const std::vector<quint32> counts = m_tiff.numbers(*lengths);
-    const size_t before = m_declared.size();
-    for (size_t i = 0; i < std::min(begins.size(), counts.size()); ++i)
-        addRange(begins[i], counts[i]);
-    const QSize size = pixelSize(directory);
-    if (m_declared.size() == before + 1 &&
-        m_declared.back().length == qsizetype(size.width()) * size.height() * 3) {
-        m_declared.back().fill = PictureSlot::Fill::Pixels;
-        m_declared.back().size = size;
-    }
-}
-
-/// The size of uncompressed 8-bit RGB pixels; empty for pixels of any other kind.
-QSize ExifDirectories::pixelSize(const TiffStructure::Directory &directory) const
-{
-    const TiffStructure::Entry *bits = directory.find(BitsPerSample);
-    const bool isRgb = bits && m_tiff.numbers(*bits) == std::vector<quint32>{8, 8, 8} &&
-                       m_tiff.number(directory, Compression).value_or(0) == 1 &&
-                       m_tiff.number(directory, Photometric).value_or(0) == 2 &&
-                       m_tiff.number(directory, SamplesPerPixel).value_or(0) == 3 &&
-                       m_tiff.number(directory, PlanarConfiguration).value_or(1) == 1;
-    const quint32 width = m_tiff.number(directory, Width).value_or(0);
-    const quint32 height = m_tiff.number(directory, Height).value_or(0);
-    if (!isRgb || std::max(width, height) > quint32(LargestSide))
-        return {};
-    return {int(width), int(height)};
 }
 
 /// The preview that an IPTC record may hold in its second part.
@@ -295,9 +154,8 @@ Slots findIptcPreviews(QByteArrayView record, qsizetype origin)
     return result;
 }
 
-} // namespace
-
-std::vector<PictureSlot> findJpegs(QByteArrayView block)
+/// JPEG pictures anywhere, whoever wrote them and by whatever offset they are found.
+Slots findJpegs(QByteArrayView block)
 {
     Slots result;
     qsizetype from = 0;
@@ -314,6 +172,19 @@ std::vector<PictureSlot> findJpegs(QByteArrayView block)
     }
 }
 
+/// What is told from its own bytes, wherever it stands: base64 text, files of other formats than JPEG, and
+/// TIFF structures inside the block.
+Slots findEmbedded(QByteArrayView block)
+{
+    Slots result = findBase64Pictures(block);
+    for (const ByteRange &file : findPictureFiles(block))
+        result.push_back({PictureSlot::Fill::Zeros, file.begin, file.length, {}});
+    append(result, findNestedTiffPictures(block));
+    return result;
+}
+
+} // namespace
+
 std::vector<PictureSlot> findBase64Pictures(QByteArrayView block)
 {
     Slots result;
@@ -325,12 +196,11 @@ std::vector<PictureSlot> findBase64Pictures(QByteArrayView block)
 std::vector<PictureSlot> findExifPictures(QByteArrayView block)
 {
     Slots result = findJpegs(block);
-    const std::optional<TiffStructure> tiff = TiffStructure::read(block);
-    const Slots declared = tiff ? ExifDirectories(block, *tiff).find() : Slots();
+    const Slots declared = findTiffPictures(block);
     for (PictureSlot &jpeg : result)
         shorten(jpeg, block, declared);
-    append(result, findBase64Pictures(block));
     append(result, declared);
+    append(result, findEmbedded(block));
     return result;
 }
 
@@ -338,7 +208,7 @@ std::vector<PictureSlot> findPhotoshopPictures(QByteArrayView block)
 {
     constexpr qsizetype thumbnailHeader = 28;
     Slots result = findJpegs(block);
-    append(result, findBase64Pictures(block));
+    append(result, findEmbedded(block));
     for (const auto &[id, begin, length] : readPhotoshopResources(block)) {
         const bool isThumbnail = id == PhotoshopResource::Thumbnail || id == PhotoshopResource::OldThumbnail;
         if (id == PhotoshopResource::Iptc)

@@ -1,37 +1,23 @@
 #pragma once
 
+#include "platform/PictureSlot.h"
+
 #include <QByteArrayView>
-#include <QSize>
 #include <vector>
 
 namespace platform {
 
-/// A picture inside a block of metadata: the bytes it takes up and what may take their place, so that every
-/// other byte and every offset in the block stays right.
-struct PictureSlot {
-    /// In the order in which slots are filled: where some overlap, a picture lies over what was blanked.
-    enum class Fill { Zeros, Spaces, Pixels, Jpeg };
-
-    Fill fill = Fill::Zeros;
-    qsizetype begin = 0;
-    qsizetype length = 0;
-    /// Of the picture that may stand in, in pixels; empty where only blanking is possible.
-    QSize size;
-
-    bool operator==(const PictureSlot &) const = default;
-};
-
 /// Searches for pictures in a block of metadata. The slots are in no particular order and lie inside the
 /// block; they may overlap. Garbage is answered with few or no slots.
 
-/// JPEG pictures anywhere, whoever wrote them and by whatever offset they are found.
-std::vector<PictureSlot> findJpegs(QByteArrayView block);
 /// Base64 text of a picture, as XMP holds it.
 std::vector<PictureSlot> findBase64Pictures(QByteArrayView block);
-/// All of the above, and what the directories of an EXIF block declare as pictures. The block begins with the
-/// TIFF header.
+/// That and picture files of any format, whoever wrote them and by whatever offset they are found, and what
+/// the directories of an EXIF block or of TIFF structures inside of it declare as pictures. The block begins
+/// with the TIFF header.
 std::vector<PictureSlot> findExifPictures(QByteArrayView block);
-/// All of the above, and what Photoshop's resources and the IPTC record in them declare as pictures.
+/// The same in a block of Photoshop's resources, and what these and the IPTC record in them declare as
+/// pictures.
 std::vector<PictureSlot> findPhotoshopPictures(QByteArrayView block);
 
 } // namespace platform

@@ -4,6 +4,7 @@
 #include "platform/PhotoshopResources.h"
 #include "platform/TiffDirectoryWriter.h"
 #include "platform/TiffStructure.h"
+#include "platform/TiffTags.h"
 
 #include <algorithm>
 #include <limits>
@@ -13,30 +14,19 @@ namespace platform {
 
 namespace {
 
-enum Tag : quint16 {
-    StripOffsets = 0x0111,
-    Orientation = 0x0112,
-    XResolution = 0x011A,
-    YResolution = 0x011B,
-    ResolutionUnit = 0x0128,
-    TileOffsets = 0x0144,
-    XmpPacket = 0x02BC,
-    IptcRecord = 0x83BB,
-    ResourcesOfPhotoshop = 0x8649,
-    ColorProfile = 0x8773
-};
-
-/// Of the tags of TIFF itself, those that tell of the photo and not of how its pixels are stored: names, make
-/// and model, orientation, density, software, date, artist and host.
-constexpr quint16 CarriedBaselineTags[] = {0x010D,         0x010E,      0x010F, 0x0110, Orientation,
-                                           XResolution,    YResolution, 0x011D, 0x0131, 0x0132,
-                                           ResolutionUnit, 0x013B,      0x013C};
+/// Of the tags of TIFF itself, those that tell of the photo and not of how its pixels are stored.
+constexpr quint16 CarriedBaselineTags[] = {
+    tifftag::DocumentName, tifftag::ImageDescription, tifftag::Make,           tifftag::Model,
+    tifftag::Orientation,  tifftag::XResolution,      tifftag::YResolution,    tifftag::PageName,
+    tifftag::Software,     tifftag::DateTime,         tifftag::ResolutionUnit, tifftag::Artist,
+    tifftag::HostComputer};
 
 bool isCarried(quint16 tag)
 {
     constexpr quint16 firstOtherTag = 0x1000;
     if (tag >= firstOtherTag)
-        return tag != IptcRecord && tag != ResourcesOfPhotoshop && tag != ColorProfile;
+        return tag != tifftag::IptcRecord && tag != tifftag::ResourcesOfPhotoshop &&
+               tag != tifftag::ColorProfile;
     return std::find(std::begin(CarriedBaselineTags), std::end(CarriedBaselineTags), tag) !=
            std::end(CarriedBaselineTags);
 }
@@ -64,7 +54,7 @@ void addPixelEntries(TiffDirectoryWriter &writer, QByteArrayView bytes, const Ti
 {
     for (const TiffStructure::Entry &entry : directory.entries) {
         QByteArray value = bytes.sliced(entry.position, entry.length).toByteArray();
-        if (entry.tag == StripOffsets || entry.tag == TileOffsets) {
+        if (entry.tag == tifftag::StripOffsets || entry.tag == tifftag::TileOffsets) {
             value.clear();
             for (const quint32 position : tiff.numbers(entry))
                 value += writer.number(origin + position);
@@ -137,7 +127,7 @@ void addIptc(TiffDirectoryWriter &writer, QByteArray record)
     constexpr qsizetype unit = 4;
     record.append((unit - record.size() % unit) % unit, '\0');
     if (!record.isEmpty())
-        writer.set(IptcRecord, TiffStructure::Long, quint32(record.size() / unit), record);
+        writer.set(tifftag::IptcRecord, TiffStructure::Long, quint32(record.size() / unit), record);
 }
 
 } // namespace
@@ -157,8 +147,8 @@ bool writeTiffWithMetadata(const QByteArray &tiff, const CarriedMetadata &metada
     addPixelEntries(writer, tiff, *pixels, *pixelDirectory, quint32(head.size()));
     addExifEntries(writer, head, exif);
     const QByteArray resources = metadata.photoshopResources();
-    addBytes(writer, XmpPacket, joinedXmp(metadata.xmpPackets()));
-    addBytes(writer, ResourcesOfPhotoshop, resources);
+    addBytes(writer, tifftag::XmpPacket, joinedXmp(metadata.xmpPackets()));
+    addBytes(writer, tifftag::ResourcesOfPhotoshop, resources);
     addIptc(writer, iptcRecord(resources));
 
     const qsizetype position = head.size() + even(tiff.size());

@@ -24,6 +24,15 @@ void initializeVips()
     });
 }
 
+QByteArrayView attachedBytes(VipsImage *image, const char *name)
+{
+    const void *data = nullptr;
+    size_t length = 0;
+    if (vips_image_get_typeof(image, name) == 0 || vips_image_get_blob(image, name, &data, &length) != 0)
+        return {};
+    return {static_cast<const char *>(data), qsizetype(length)};
+}
+
 QString takeVipsError()
 {
     const QString text = QString::fromUtf8(vips_error_buffer());

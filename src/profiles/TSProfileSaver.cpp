@@ -36,7 +36,8 @@ QImage profileBackground()
 /// Puts a whole package in the place of the one that may be there, which is kept until then.
 bool takePlace(const QString &fresh, const QString &package)
 {
-    const QString former = fresh + QStringLiteral(".former");
+    // Not named after the package, whose name may be as long as names can be.
+    const QString former = QFileInfo(fresh).dir().filePath(QStringLiteral("former"));
     const bool isTaken = QFileInfo::exists(package);
     if (isTaken && !QFile::rename(package, former))
         return false;

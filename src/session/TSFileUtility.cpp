@@ -157,10 +157,11 @@ QString TSFileSizeText(const QString &path)
     return info.exists() ? QLocale().formattedDataSize(info.size(), 1, QLocale::DataSizeSIFormat) : QString();
 }
 
-QString TSUniquePath(const QString &folder, const QString &name, const QString &extension)
+QString TSUniquePath(const QString &folder, const QString &name, const QString &extension,
+                     const std::function<bool(const QString &path)> &isTaken)
 {
     QString candidate = QStringLiteral("%1/%2.%3").arg(folder, name, extension);
-    for (int number = 1; TSFileExists(candidate); ++number)
+    for (int number = 1; isTaken(candidate); ++number)
         candidate = QStringLiteral("%1/%2.%3").arg(folder, numbered(name + u'_', number, 3), extension);
     return candidate;
 }

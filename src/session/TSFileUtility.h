@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <QString>
 #include <QStringList>
 
@@ -44,8 +45,10 @@ QString TSMimeTypeOfPath(const QString &path);
 /// The size of a file in words, or nothing when it cannot be read.
 QString TSFileSizeText(const QString &path);
 
-/// "folder/name.extension", or the first of "folder/name_001.extension" and so on that is free on the disk.
-QString TSUniquePath(const QString &folder, const QString &name, const QString &extension);
+/// "folder/name.extension", or the first of "folder/name_001.extension" and so on that is free: on the disk,
+/// unless the caller knows of more.
+QString TSUniquePath(const QString &folder, const QString &name, const QString &extension,
+                     const std::function<bool(const QString &path)> &isTaken = TSFileExists);
 /// A free name found by counting on the name's trailing digits, of which up to three give the width.
 QString TSNextNumberedPath(const QString &folder, const QString &name, const QString &extension);
 

@@ -30,6 +30,9 @@ QVariantMap fileAttributes(const QString &path)
 QString reasonForRefusal(const QString &path)
 {
     const QFileInfo info(path);
+    // What stands for bytes that are no text leads back to no file.
+    if (!info.exists() && path.contains(QChar::ReplacementCharacter))
+        return qtTrId("The file's name is not in UTF-8; rename it.");
     if (!info.exists())
         return qtTrId("There is no such file.");
     if (info.isDir())

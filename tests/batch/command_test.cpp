@@ -297,3 +297,24 @@ TEST_F(CommandTest, AProfileStandsForTheMarksItWasSavedFrom)
     EXPECT_TRUE(errors.contains("holds no marks that can be read"));
     EXPECT_TRUE(files().isEmpty());
 }
+
+TEST_F(CommandTest, NamesMayBeAsLongAsTheyCanBeAndHoldAnything)
+{
+    const QString longest = QString(251, u'n') + ".png";
+    session.writePng(longest, plainImage({40, 30}));
+    session.writePng("line\nfeed\x1B.png", plainImage({40, 30}));
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_EQ(run({"--conflict", "replace", "--output", outFolder()}, {longest, "line\nfeed\x1B.png"}),
+                  0);
+        EXPECT_EQ(files(), QStringList({"line\nfeed\x1B.jpg", QString(251, u'n') + ".jpg"}));
+        EXPECT_TRUE(output.contains("line\\nfeed\\x1b.png -> ")) << output.constData();
+    }
+    EXPECT_EQ(run({"--name", QString(252, u'n'), "--output", outFolder()}, {longest}), 1);
+    EXPECT_TRUE(errors.contains("The name is too long.")) << errors.constData();
+}
+
+TEST_F(CommandTest, APhotoThatAProfileCannotBeLaidOutOnIsNamed)
+{
+    EXPECT_EQ(run({"--text", "a", "--save-profile", "Mine"}, {"gone.jpg"}), TSBatchStatus::SomeNotWritten);
+    EXPECT_TRUE(errors.contains("gone.jpg: There is no such file.")) << errors.constData();
+}

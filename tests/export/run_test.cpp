@@ -228,7 +228,7 @@ TEST_F(RunTest, AFailedWriteIsLeftBehind)
     const QString longName(300, u'b');
     const std::tuple<QString, const char *, const char *, bool> cases[] = {
         {"2024/b", "out/2024 does not exist.", "", false},
-        {longName, "could not be written", "", false},
+        {longName, "name is too long", "", false},
         {"b", "A folder stands under the name", "b.jpg", false},
         {"b", "could not be written", "", true}};
     addPhotos({"a"});

@@ -256,3 +256,45 @@ TEST(CarriedMetadata, SurvivesGarbage)
         EXPECT_EQ(inserted(segment, round % 8 ? QImage() : mark()).size(), segment.size());
     }
 }
+
+TEST(CarriedMetadata, BlanksPictureFilesOfOtherFormats)
+{
+    const auto box = [](const char *type, const QByteArray &content) {
+        return bytes::bigEndian(quint32(8 + content.size()), 4) + type + content;
+    };
+    const QByteArray pixels(60, '\x44');
+    const QByteArray files[] = {QByteArray("\x89PNG\r\n\x1A\n") + bytes::bigEndian(5, 4) + "IHDRhhhhhssss" +
+                                    bytes::bigEndian(60, 4) + "IDAT" + pixels + "ssss" +
+                                    bytes::bigEndian(0, 4) + "IENDssss",
+                                QByteArray("GIF89a\1\0\1\0\x80\0\0ttttttt", 19) +
+                                    QByteArray(",pppppppp\0\2\x3C", 12) + pixels + QByteArray("\0;", 2),
+                                QByteArray("RIFF\x40\0\0\0WEBP", 12) + pixels,
+                                box("ftyp", "heicmif1") + box("meta", "mmmm") + box("mdat", pixels),
+                                box("jP  ", "\r\n\x87\n") + box("ftyp", "jp2 ") + box("jp2c", pixels)};
+    for (const QByteArray &file : files) {
+        const QByteArray block = bytes::resource(0x0FA0, file) + bytes::resource(0x03ED, "GIF89a ftyp RIFF");
+        QByteArray blank = block;
+        blank.replace(file, zeros(file.size()));
+        EXPECT_EQ(inserted(bytes::photoshopSegment(block)), bytes::photoshopSegment(blank))
+            << file.left(12).data();
+        bytes::Exif exif{.note = "Maker" + file + "kept"};
+        const QByteArray segment = bytes::exifSegment(exif.block());
+        EXPECT_EQ(inserted(segment), QByteArray(segment).replace(file, zeros(file.size())));
+    }
+}
+
+TEST(CarriedMetadata, BlanksPicturesOfNestedStructures)
+{
+    // A second EXIF block, with its pixels in tiles, behind a resource of another program.
+    const QByteArray pixels(90, '\x44');
+    platform::TiffDirectoryWriter directory(true);
+    directory.set(0x0144, platform::TiffStructure::Long, 1, directory.number(64));
+    directory.set(0x0145, platform::TiffStructure::Long, 1, directory.number(90));
+    QByteArray nested = QByteArray("MM\0*", 4) + directory.number(8) + directory.bytes(8);
+    nested = nested.leftJustified(64, '\0') + pixels;
+    const QByteArray block = bytes::resource(0x07D0, "abcd").replace("8BIM", "MeSa") +
+                             bytes::resource(0x0422, nested) +
+                             bytes::resource(0x040C, QByteArray(28, '\1') + pixels);
+    EXPECT_EQ(inserted(bytes::photoshopSegment(block)),
+              bytes::photoshopSegment(QByteArray(block).replace(pixels, zeros(90))));
+}

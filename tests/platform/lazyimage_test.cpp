@@ -242,3 +242,28 @@ TEST_F(LazyImageTest, ThumbnailsHoldMeansOfWhatStreamedBy)
     EXPECT_TRUE(platform::ThumbnailCollector({64, 32}, {}).thumbnail().isNull());
     EXPECT_TRUE(platform::ThumbnailCollector({}, {4, 2}).thumbnail().isNull());
 }
+
+TEST_F(LazyImageTest, BitmapsThatBreakOffAreNoPictures)
+{
+    for (const auto format : {QImage::Format_RGB32, QImage::Format_Indexed8, QImage::Format_Mono}) {
+        const QString whole = path("whole.bmp");
+        ASSERT_TRUE(plain({33, 20}, Qt::white).convertToFormat(format).save(whole, "BMP"));
+        EXPECT_EQ(platform::decodeImage(whole).pixelColor(32, 19), QColor(Qt::white));
+        QFile file(whole);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        EXPECT_FALSE(platform::isDecodableImage(write("cut.bmp", file.readAll().chopped(1)))) << format;
+    }
+}
+
+TEST_F(LazyImageTest, TheCameraTellsOfAdobeRGBWhereNoProfileDoes)
+{
+    // By the matrices and curves of Adobe RGB and sRGB.
+    const QColor moved(66, 151, 34);
+    const platform::VipsImagePtr image = flat({100, 150, 50}, VIPS_FORMAT_UCHAR, VIPS_INTERPRETATION_sRGB);
+    for (const char *rules : {"R03", "R98"}) {
+        vips_image_set_string(image.get(), "exif-ifd4-InteroperabilityIndex", rules);
+        const LazyImage opened = LazyImage::open(write("camera.jpg", image.get()), {});
+        expectColor(opened.inSRGB().toImage().pixelColor(8, 8),
+                    rules == std::string("R03") ? moved : QColor(100, 150, 50), 2);
+    }
+}
