@@ -66,6 +66,10 @@
         <source>Stop the export?</source>
         <translation>Export vorzeitig beenden?</translation>
     </message>
+    <message id="ConfirmQuit">
+        <source>Stop the export and quit?</source>
+        <translation>Export abbrechen und Tessaro beenden?</translation>
+    </message>
     <message id="Continue">
         <source>Continue</source>
         <translation>Fortfahren</translation>

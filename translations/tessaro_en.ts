@@ -66,6 +66,10 @@
         <source>Stop the export?</source>
         <translation>Stop the export?</translation>
     </message>
+    <message id="ConfirmQuit">
+        <source>Stop the export and quit?</source>
+        <translation>Stop the export and quit?</translation>
+    </message>
     <message id="Continue">
         <source>Continue</source>
         <translation>Continue</translation>

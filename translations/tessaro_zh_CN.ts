@@ -65,6 +65,10 @@
         <source>Stop the export?</source>
         <translation>停止导出？</translation>
     </message>
+    <message id="ConfirmQuit">
+        <source>Stop the export and quit?</source>
+        <translation>停止导出并退出？</translation>
+    </message>
     <message id="Continue">
         <source>Continue</source>
         <translation>继续</translation>

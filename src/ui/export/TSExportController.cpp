@@ -35,6 +35,8 @@ TSExportController::TSExportController(QWidget &window) : m_window(window)
     connect(m_pbWC, &TSProgressBarWindowController::isPausingChanged, this, [this](bool isPausing) {
         if (m_run)
             m_run->isPausing = isPausing;
+        if (!isPausing && !m_pbWC->isCancelled())
+            m_isQuitting = false;
     });
     connect(m_pbWC, &TSProgressBarWindowController::isCancelledChanged, this, [this](bool isCancelled) {
         if (m_run)
@@ -64,6 +66,18 @@ void TSExportController::abandonRun()
     }
     m_questions.giveUp();
     m_queue.waitForDone();
+}
+
+void TSExportController::quitRun()
+{
+    m_isQuitting = isRunning();
+    if (m_isQuitting)
+        m_pbWC->askToQuit();
+}
+
+void TSExportController::addRunAction(QAction *action)
+{
+    m_pbWC->addAction(action);
 }
 
 void TSExportController::exportPhotos()
@@ -109,6 +123,7 @@ void TSExportController::start(const QString &folder)
 {
     m_folder = folder;
     m_report = TSExportReport();
+    m_isQuitting = false;
     m_run = std::make_unique<TSExportRun>(static_cast<TSExportHost &>(*this));
     m_pbWC->setIndeterminate(true);
     m_pbWC->setIsCancelled(false);
@@ -135,6 +150,8 @@ void TSExportController::end()
     m_run.reset();
     if (!wasCancelled)
         reportFailures();
+    else if (m_isQuitting)
+        Q_EMIT runWasQuit();
 }
 
 /// A photo that failed is told of, also where no result sheet comes.
