@@ -245,27 +245,37 @@ TEST_F(MainWindowTest, ZoomAndWindowKeepTheMarkOnThePhoto)
     EXPECT_LT(session.data.canvasFrame.bottom(), window().preview->viewport()->height());
 }
 
-/// A stem that is enlarged from fewer pixels rises over several.
-TEST_F(MainWindowTest, TextHasThePixelsOfTheScreen)
+/// An edge that is enlarged from fewer pixels rises over several.
+TEST_F(MainWindowTest, MarksHaveThePixelsOfTheScreen)
 {
     addPhotos({session.writePng("a.png", plainImage({900, 600}, Qt::black))});
+    QImage stripes = plainImage({2000, 500}, Qt::black);
+    QPainter painter(&stripes);
+    // Some of their edges fall on pixels of the screen.
+    for (int x = 62; x < stripes.width(); x += 124)
+        painter.fillRect(x, 0, 62, stripes.height(), Qt::white);
+    painter.end();
     preview().creation().createNewText();
-    const auto text = std::dynamic_pointer_cast<TSText>(session.overlays.overlayAtIndex(0));
-    text->setOpacity(1);
-    preview().selection().selectOverlay(nullptr);
-    const QImage shown = window().preview->viewport()->grab().toImage();
-    const QRectF frame(text->frame().topLeft() * shown.devicePixelRatio(),
-                       text->frame().size() * shown.devicePixelRatio());
-    const QImage letters = shown.copy(frame.toAlignedRect());
-    int brightest = 0, steepest = 0;
-    for (int y = 0; y < letters.height(); ++y)
-        for (int x = 1; x < letters.width(); ++x) {
-            const int here = qGray(letters.pixel(x, y)), before = qGray(letters.pixel(x - 1, y));
-            brightest = std::max(brightest, here);
-            steepest = std::max(steepest, std::abs(here - before));
-        }
-    EXPECT_GT(brightest, 200);
-    EXPECT_GT(steepest, 0.8 * brightest);
+    preview().creation().addStickerWithPath(session.writePng("stripes.png", stripes), true);
+    const auto mark = session.overlays.overlayAtIndex(0), text = session.overlays.overlayAtIndex(1);
+    mark->setFrame(QRectF(session.data.canvasFrame.topLeft() + QPointF(31.3, 20.2), QSizeF(333, 83.25)));
+    for (const auto &overlay : {text, mark}) {
+        overlay->setOpacity(1);
+        preview().selection().selectOverlay(nullptr);
+        const QImage shown = window().preview->viewport()->grab().toImage();
+        const double scale = shown.devicePixelRatio();
+        const QImage seen = shown.copy(
+            QRectF(overlay->frame().topLeft() * scale, overlay->frame().size() * scale).toAlignedRect());
+        int brightest = 0, steepest = 0;
+        for (int y = 0; y < seen.height(); ++y)
+            for (int x = 1; x < seen.width(); ++x) {
+                const int here = qGray(seen.pixel(x, y)), before = qGray(seen.pixel(x - 1, y));
+                brightest = std::max(brightest, here);
+                steepest = std::max(steepest, std::abs(here - before));
+            }
+        EXPECT_GT(brightest, 200);
+        EXPECT_GT(steepest, 0.8 * brightest);
+    }
 }
 
 TEST_F(MainWindowTest, MarksAreToldToAssistiveTechnology)
