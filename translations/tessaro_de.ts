@@ -331,6 +331,10 @@
             <numerusform>%n Fotos</numerusform>
         </translation>
     </message>
+    <message id="PhotoUnreadable">
+        <source>This photo cannot be read</source>
+        <translation>Dieses Foto lässt sich nicht lesen</translation>
+    </message>
     <message id="Photos">
         <source>Photos</source>
         <translation>Fotos</translation>

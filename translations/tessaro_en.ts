@@ -331,6 +331,10 @@
             <numerusform>%n photos</numerusform>
         </translation>
     </message>
+    <message id="PhotoUnreadable">
+        <source>This photo cannot be read</source>
+        <translation>This photo cannot be read</translation>
+    </message>
     <message id="Photos">
         <source>Photos</source>
         <translation>Photos</translation>

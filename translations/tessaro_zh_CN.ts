@@ -327,6 +327,10 @@
             <numerusform>%n 张照片</numerusform>
         </translation>
     </message>
+    <message id="PhotoUnreadable">
+        <source>This photo cannot be read</source>
+        <translation>无法读取这张照片</translation>
+    </message>
     <message id="Photos">
         <source>Photos</source>
         <translation>照片</translation>

@@ -5,6 +5,7 @@
 #include "shell/TSMainWindowController.h"
 #include "support/Session.h"
 #include "ui/photos/TSPhotoStripView.h"
+#include "ui/photos/TSThumbnailLoader.h"
 #include "ui/preview/TSPreviewScrollView.h"
 
 #include <QAbstractButton>
@@ -14,6 +15,7 @@
 #include <QDeadlineTimer>
 #include <QDialog>
 #include <QDropEvent>
+#include <QFile>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -405,6 +407,30 @@ TEST_F(MainWindowTest, RefusedFilesAreNamed)
     EXPECT_EQ(session.data.photoCount(), 1);
     EXPECT_TRUE(closer.told[0].startsWith("b.jpg: Die Datei ist kein lesbares Bild.\n"));
     EXPECT_TRUE(closer.told[0].endsWith("Das ist ein Ordner, kein Foto."));
+}
+
+/// Broken off behind its head, it is in the list and has no picture.
+TEST_F(MainWindowTest, APhotoWithoutAPictureSaysSoInItsPlace)
+{
+    const AlertCloser closer;
+    const QString broken = session.writeJpeg("broken.jpg", plainImage({900, 600}, Qt::green));
+    QFile file(broken);
+    file.resize(file.size() * 2 / 3);
+    addPhotos({session.writePng("a.png", plainImage({900, 600}, Qt::green)), broken});
+    const QImage shown = window().preview->viewport()->grab().toImage();
+    const QRectF canvas = session.data.canvasFrame;
+    const auto at = [&](const QPointF &point) {
+        return qGray(shown.pixel((point * shown.devicePixelRatio()).toPoint()));
+    };
+    EXPECT_GT(at(canvas.topLeft() - QPointF(20, 0)) - at(canvas.topLeft() + QPointF(20, 20)), 60);
+    int brightest = 0;
+    for (double x = canvas.left(); x < canvas.right(); ++x)
+        for (double y = canvas.center().y() - 6; y < canvas.center().y() + 6; ++y)
+            brightest = std::max(brightest, at({x, y}));
+    EXPECT_GT(brightest, 150) << "the words";
+    TSThumbnailLoader loader;
+    const auto item = session.data.itemAtIndex(1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !loader.thumbnail(item, 64).isNull(); }, 5000));
 }
 
 TEST_F(MainWindowTest, EveryControlHasAName)
