@@ -239,7 +239,8 @@ void TSMainWindowController::addPhotos(const QList<QUrl> &urls)
 void TSMainWindowController::loadPhotoAction()
 {
     const QList<QUrl> urls =
-        QFileDialog::getOpenFileUrls(m_window.get(), qtTrId("ChoosePhoto"), {}, photoFilter());
+        QFileDialog::getOpenFileUrls(m_window.get(), qtTrId("ChoosePhoto"), {}, photoFilter(), nullptr,
+                                     QFileDialog::HideNameFilterDetails);
     if (!urls.isEmpty() && m_photoIntake)
         m_photoIntake->loadPhotos(urls);
 }
@@ -247,7 +248,8 @@ void TSMainWindowController::loadPhotoAction()
 void TSMainWindowController::addStickerFromFinder()
 {
     const QString path =
-        QFileDialog::getOpenFileName(m_window.get(), qtTrId("ChooseImage"), {}, photoFilter());
+        QFileDialog::getOpenFileName(m_window.get(), qtTrId("ChooseImage"), {}, photoFilter(), nullptr,
+                                     QFileDialog::HideNameFilterDetails);
     if (!path.isEmpty())
         preview().creation().addStickerWithPath(path, true);
 }

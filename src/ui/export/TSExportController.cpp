@@ -8,6 +8,7 @@
 #include "ui/export/TSProgressBarWindowController.h"
 #include "ui/export/TSSaveInfoWindowController.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -19,6 +20,13 @@ constexpr int largestSide = 20000;
 TSDataManager *session()
 {
     return TSDataManager::dataManager();
+}
+
+/// Not every desktop makes the folder that it names for pictures, and one that is not there cannot be chosen.
+QString firstFolder()
+{
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    return QFileInfo(pictures).isDir() ? pictures : QDir::homePath();
 }
 
 } // namespace
@@ -92,8 +100,7 @@ QFileDialog *TSExportController::savePanel()
 {
     if (m_savePanel)
         return m_savePanel;
-    m_savePanel = new QFileDialog(&m_window, qtTrId("ChooseFolder"),
-                                  QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
+    m_savePanel = new QFileDialog(&m_window, qtTrId("ChooseFolder"), firstFolder());
     m_savePanel->setObjectName(QStringLiteral("savePanel"));
     m_savePanel->setFileMode(QFileDialog::Directory);
     m_savePanel->setOption(QFileDialog::ShowDirsOnly);
