@@ -123,7 +123,7 @@ void TSPreviewScrollView::redrawTrackerView()
 void TSPreviewScrollView::setCursor(TSCursor cursor)
 {
     m_cursor = cursor;
-    viewport()->setCursor(TSPreviewCursor(cursor));
+    viewport()->setCursor(TSPreviewCursor(cursor, devicePixelRatioF()));
 }
 
 void TSPreviewScrollView::makeFirstResponder(TSResponder)
