@@ -9,7 +9,7 @@
     </message>
     <message id="Adjust">
         <source>Adjust</source>
-        <translation>Anpassen</translation>
+        <translation>Einzeln</translation>
     </message>
     <message id="AndMorePhotos" numerus="yes">
         <source>… and %n more photos</source>
