@@ -9,7 +9,7 @@
     </message>
     <message id="Adjust">
         <source>Adjust</source>
-        <translation>Anpassen</translation>
+        <translation>Einzeln</translation>
     </message>
     <message id="AndMorePhotos" numerus="yes">
         <source>… and %n more photos</source>
@@ -65,6 +65,10 @@
     <message id="ConfirmCancel">
         <source>Stop the export?</source>
         <translation>Export vorzeitig beenden?</translation>
+    </message>
+    <message id="ConfirmQuit">
+        <source>Stop the export and quit?</source>
+        <translation>Export abbrechen und Tessaro beenden?</translation>
     </message>
     <message id="Continue">
         <source>Continue</source>
@@ -326,6 +330,10 @@
             <numerusform>%n Foto</numerusform>
             <numerusform>%n Fotos</numerusform>
         </translation>
+    </message>
+    <message id="PhotoUnreadable">
+        <source>This photo cannot be read</source>
+        <translation>Dieses Foto lässt sich nicht lesen</translation>
     </message>
     <message id="Photos">
         <source>Photos</source>

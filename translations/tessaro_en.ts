@@ -66,6 +66,10 @@
         <source>Stop the export?</source>
         <translation>Stop the export?</translation>
     </message>
+    <message id="ConfirmQuit">
+        <source>Stop the export and quit?</source>
+        <translation>Stop the export and quit?</translation>
+    </message>
     <message id="Continue">
         <source>Continue</source>
         <translation>Continue</translation>
@@ -326,6 +330,10 @@
             <numerusform>%n photo</numerusform>
             <numerusform>%n photos</numerusform>
         </translation>
+    </message>
+    <message id="PhotoUnreadable">
+        <source>This photo cannot be read</source>
+        <translation>This photo cannot be read</translation>
     </message>
     <message id="Photos">
         <source>Photos</source>

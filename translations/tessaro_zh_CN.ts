@@ -65,6 +65,10 @@
         <source>Stop the export?</source>
         <translation>停止导出？</translation>
     </message>
+    <message id="ConfirmQuit">
+        <source>Stop the export and quit?</source>
+        <translation>停止导出并退出？</translation>
+    </message>
     <message id="Continue">
         <source>Continue</source>
         <translation>继续</translation>
@@ -322,6 +326,10 @@
         <translation>
             <numerusform>%n 张照片</numerusform>
         </translation>
+    </message>
+    <message id="PhotoUnreadable">
+        <source>This photo cannot be read</source>
+        <translation>无法读取这张照片</translation>
     </message>
     <message id="Photos">
         <source>Photos</source>

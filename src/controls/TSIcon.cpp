@@ -18,7 +18,8 @@ public:
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
     {
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        TSIcon::paint(*painter, rect, m_name, m_palette.color(group, QPalette::ButtonText));
+        const auto role = mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::ButtonText;
+        TSIcon::paint(*painter, rect, m_name, m_palette.color(group, role));
     }
 
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override

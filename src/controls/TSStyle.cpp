@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOption>
@@ -125,6 +126,20 @@ void drawChevron(QPainter *painter, const QPointF &center, const QColor &color)
         QPolygonF({center + QPointF(-4, -2), center + QPointF(0, 2), center + QPointF(4, -2)}));
 }
 
+void drawMenuSeparator(const QStyleOption *option, QPainter *painter)
+{
+    constexpr int inset = 6;
+    const int y = option->rect.center().y();
+    painter->setPen(TSTheme::hairline(option->palette));
+    painter->drawLine(option->rect.left() + inset, y, option->rect.right() - inset, y);
+}
+
+/// A picture beside words is drawn in their colour, also where they lie on the accent.
+QIcon iconOnAccent(const QStyleOptionMenuItem &item, int side, const QPainter &painter)
+{
+    return item.icon.pixmap(QSize(side, side), painter.device()->devicePixelRatioF(), QIcon::Selected);
+}
+
 void drawComboBox(const QStyleOptionComboBox *option, QPainter *painter)
 {
     const QColor surface = option->palette.color(option->editable ? QPalette::Base : QPalette::Button);
@@ -170,6 +185,10 @@ void TSStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option
     case PE_FrameLineEdit:
     case PE_FrameDefaultButton:
         break;
+    case PE_FrameMenu:
+        painter->setPen(TSTheme::outline(option->palette));
+        painter->drawRect(crisp(option->rect));
+        break;
     case PE_IndicatorCheckBox:
         drawMark(option, painter, false);
         break;
@@ -188,6 +207,9 @@ void TSStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option
 void TSStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                           const QWidget *widget) const
 {
+    if (const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
+        element == CE_MenuItem && item)
+        return drawMenuItem(*item, painter, widget);
     const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
     if (element == CE_PushButtonLabel && button && isDefaultButton(option)) {
         QStyleOptionButton label(*button);
@@ -207,6 +229,20 @@ void TSStyle::drawControl(ControlElement element, const QStyleOption *option, QP
     } else {
         QProxyStyle::drawControl(element, option, painter, widget);
     }
+}
+
+void TSStyle::drawMenuItem(const QStyleOptionMenuItem &option, QPainter *painter, const QWidget *widget) const
+{
+    painter->save();
+    if (option.menuItemType == QStyleOptionMenuItem::Separator && option.text.isEmpty()) {
+        drawMenuSeparator(&option, painter);
+    } else {
+        QStyleOptionMenuItem item(option);
+        if (has(&option, State_Selected) && has(&option, State_Enabled) && !item.icon.isNull())
+            item.icon = iconOnAccent(item, pixelMetric(PM_SmallIconSize, &option, widget), *painter);
+        QProxyStyle::drawControl(CE_MenuItem, &item, painter, widget);
+    }
+    painter->restore();
 }
 
 void TSStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
@@ -317,6 +353,9 @@ int TSStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget
     // Nor do the toolkit's coloured pictures belong on our buttons.
     if (hint == SH_EtchDisabledText || hint == SH_DialogButtonBox_ButtonsHaveIcons)
         return 0;
+    // What goes on stands on the right in every sheet, and so in every dialog.
+    if (hint == SH_DialogButtonLayout)
+        return QDialogButtonBox::GnomeLayout;
     return QProxyStyle::styleHint(hint, option, widget, returnData);
 }
 

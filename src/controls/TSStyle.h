@@ -4,6 +4,8 @@
 
 #include <QProxyStyle>
 
+class QStyleOptionMenuItem;
+
 /// Flat controls over Fusion: rounded surfaces, thin outlines, and a focus ring on everything that takes
 /// keys.
 class TSStyle : public QProxyStyle {
@@ -29,5 +31,6 @@ public:
                            const QWidget *widget) const override;
 
 private:
+    void drawMenuItem(const QStyleOptionMenuItem &option, QPainter *painter, const QWidget *widget) const;
     void drawSlider(const QStyleOptionComplex *option, QPainter *painter, const QWidget *widget) const;
 };

@@ -125,7 +125,8 @@ void TSTokenField::setWraps(bool wraps)
     // Inside the text's own margin, where the shape of a token reaches above and below its line.
     const int room = TSTheme::controlHeight - 2 * frameWidth() - fontMetrics().height();
     document()->setDocumentMargin(qMax(3, room / 2));
-    setViewportMargins(sideMargin, 0, sideMargin, 0);
+    // An odd pixel goes above, as with the labels and fields beside it.
+    setViewportMargins(sideMargin, room % 2, sideMargin, 0);
     updateGeometry();
 }
 

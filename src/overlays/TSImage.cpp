@@ -1,5 +1,6 @@
 #include "overlays/TSImage.h"
 
+#include "overlays/TSImageScreen.h"
 #include "platform/Folders.h"
 #include "platform/KeyedArchiver.h"
 #include "platform/KeyedUnarchiver.h"
@@ -29,12 +30,13 @@ QString builtInSticker(const QString &imagePath)
 }
 
 /// The frame with its edges on whole pixels, so that a picture scaled to it once is not resampled again.
-QRectF onWholePixels(const QRectF &frame)
+/// `factor` is pixels a unit.
+QRectF onWholePixels(const QRectF &frame, double factor)
 {
-    const double left = std::round(frame.left());
-    const double top = std::round(frame.top());
-    return {left, top, std::max(1.0, std::round(frame.right()) - left),
-            std::max(1.0, std::round(frame.bottom()) - top)};
+    const double left = std::round(frame.left() * factor);
+    const double top = std::round(frame.top() * factor);
+    return {left / factor, top / factor, std::max(1.0, std::round(frame.right() * factor) - left) / factor,
+            std::max(1.0, std::round(frame.bottom() * factor) - top) / factor};
 }
 
 /// A picture that reaches far beyond the photo is made smaller than it is seen, and stretched: it could be
@@ -46,6 +48,23 @@ QSize pixelsFor(const QSizeF &seen)
     const QSizeF sides = seen.boundedTo({longestSide, longestSide});
     const double share = std::sqrt(std::min(1.0, largestArea / (sides.width() * sides.height())));
     return (sides * share).toSize().expandedTo({1, 1});
+}
+
+/// As many as a picture has that fills a large screen. A larger one is made anew for each look, and with no
+/// more pixels than units, since a person who has zoomed in so far sees a small part of it.
+constexpr double mostKeptPixels = 8e6;
+
+double area(const QSizeF &size)
+{
+    return size.width() * size.height();
+}
+
+/// Of the screen, as far as they are few enough.
+double pixelsPerUnit(const QSizeF &seen)
+{
+    const TSImageScreen *screen = TSImageScreen::current();
+    return screen ? std::max(1.0, std::min(screen->pixelsPerUnit(), std::sqrt(mostKeptPixels / area(seen))))
+                  : 1.0;
 }
 
 } // namespace
@@ -65,15 +84,28 @@ void TSImage::drawIncontext(platform::PaintLayer &context)
     // A frame that has lost its shape is no number wide.
     if (!picture || !(frame().width() > 0 && frame().height() > 0))
         return;
-    const QRectF place = angle() == 0 ? onWholePixels(frame()) : frame();
+    const double factor = pixelsPerUnit(frame().size());
+    const QRectF place = angle() == 0 ? onWholePixels(frame(), factor) : frame();
     const QPointF center = frame().center();
     context.save();
     context.translate(center.x(), center.y());
     context.rotate(angle());
     context.translate(-center.x(), -center.y());
     context.setAlpha(opacity());
-    context.drawImage(place, picture->imageOfSize(pixelsFor(place.size())));
+    context.drawImage(place, pixelsOf(picture, pixelsFor(place.size() * factor)));
     context.restore();
+}
+
+/// A picture remembers one size alone, which an export and every other mark that shows it have theirs of.
+QImage TSImage::pixelsOf(const std::shared_ptr<platform::Picture> &picture, const QSize &size)
+{
+    if (!TSImageScreen::current() || area(size) > mostKeptPixels)
+        return picture->imageOfSize(size);
+    if (m_seen.size() != size || m_seenPicture.lock() != picture) {
+        m_seen = picture->imageOfSize(size);
+        m_seenPicture = picture;
+    }
+    return m_seen;
 }
 
 QStringList TSImage::classChain() const

@@ -1,6 +1,10 @@
 #pragma once
 
 #include "overlays/TSOverlay.h"
+#include "platform/Picture.h"
+
+#include <memory>
+#include <QImage>
 
 /// A picture watermark: where the picture lies, drawn scaled into the frame. It carries a shadow and draws
 /// none. A picture that can no longer be read leaves the overlay in place, invisible.
@@ -27,8 +31,13 @@ public:
     void encodeWithCoder(platform::KeyedArchiver &coder) const override;
 
 private:
+    QImage pixelsOf(const std::shared_ptr<platform::Picture> &picture, const QSize &size);
+
     QString m_imagePath;
     QString m_imageName;
     QString m_oldPath;
     bool m_isFromFinder = false;
+    /// What the screen showed last, and of which picture.
+    QImage m_seen;
+    std::weak_ptr<platform::Picture> m_seenPicture;
 };

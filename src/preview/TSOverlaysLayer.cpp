@@ -1,6 +1,7 @@
 #include "preview/TSOverlaysLayer.h"
 
 #include "overlays/TSHitTest.h"
+#include "overlays/TSImageScreen.h"
 #include "overlays/TSOverlayManager.h"
 #include "platform/PaintLayer.h"
 #include "session/TSDataManager.h"
@@ -14,6 +15,7 @@ void TSOverlaysLayer::drawRect(QPainter &context, const QRectF &dirtyRect) const
         return;
     platform::PaintLayer layer(
         QSize(int(std::ceil(data->previewFrame.width())), int(std::ceil(data->previewFrame.height()))));
+    const TSImageScreen screen(context.device()->devicePixelRatioF());
     const auto overlays = TSOverlayManager::overlayManager()->overlays();
     for (auto overlay = overlays.rbegin(); overlay != overlays.rend(); ++overlay)
         if (TSRectsMeet((*overlay)->frame(), dirtyRect))

@@ -48,10 +48,14 @@ void TSPreview::moveByKey(int key)
         m_dragging.shiftPattern({0, key == Qt::Key_Up ? -step : step});
 }
 
-void TSPreview::drawCanvas(QPainter &context) const
+bool TSPreview::drawCanvas(QPainter &context) const
 {
-    if (const auto &photo = m_layout.photo())
-        photo->drawInContext(context, TSDataManager::dataManager()->cacheAtIndex(photo->index));
+    const auto &photo = m_layout.photo();
+    if (!photo)
+        return true;
+    const QImage picture = TSDataManager::dataManager()->cacheAtIndex(photo->index);
+    photo->drawInContext(context, picture);
+    return !picture.isNull();
 }
 
 void TSPreview::circlePositionChanged(const QSizeF &positionRatio)

@@ -41,7 +41,8 @@ public:
     void mouseDragged(const TSMouseEvent &event) { m_dragging.mouseDragged(event); }
     void mouseUp() { m_dragging.mouseUp(); }
 
-    void drawCanvas(QPainter &context) const;
+    /// False when there is a photo, and no picture of it that can be read.
+    bool drawCanvas(QPainter &context) const;
     /// Follows the position control. Nobody reads the rectangle yet.
     void circlePositionChanged(const QSizeF &positionRatio);
     const QRectF &overlayRect() const { return m_overlayRect; }

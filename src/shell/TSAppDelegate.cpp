@@ -75,7 +75,8 @@ void TSAppDelegate::applicationDidFinishLaunching()
     QApplication::setQuitOnLastWindowClosed(false);
     m_mainWc = std::make_unique<TSMainWindowController>();
     exitGuard.working = m_mainWc.get();
-    connect(m_mainWc->window().quitAction, &QAction::triggered, qApp, &QApplication::quit);
+    connect(m_mainWc->window().quitAction, &QAction::triggered, m_mainWc.get(),
+            &TSMainWindowController::quit);
     // Not by quit(), which asks every window, and the sheet of an export would ask the user.
     connect(&m_quitSignals, &TSQuitSignals::quitWasAsked, qApp, [] { QApplication::exit(); });
     m_mainWc->window().show();

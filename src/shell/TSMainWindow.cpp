@@ -7,6 +7,7 @@
 #include "ui/preview/TSPreviewAccessible.h"
 #include "ui/preview/TSPreviewScrollView.h"
 
+#include <QActionGroup>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QLabel>
@@ -161,8 +162,14 @@ void TSMainWindow::makeZoomMenu(QMenu &zoom)
     size_t item = firstZoomItem;
     for (const auto &[name, title] : zooms)
         zoom.addAction(menuItems[item++] = newAction(name, QLatin1String(title)));
+    // None of them is in force while the photo has a size between theirs.
+    auto *steps = new QActionGroup(this);
+    steps->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
     for (QAction *action : menuItems)
-        action->setCheckable(!action->isSeparator());
+        if (!action->isSeparator()) {
+            action->setCheckable(true);
+            steps->addAction(action);
+        }
     zoom.addSeparator();
     zoom.addAction(zoomIn = newAction("zoomIn", qtTrId("MenuZoomIn"), QKeySequence::ZoomIn));
     zoom.addAction(zoomOut = newAction("zoomOut", qtTrId("MenuZoomOut"), QKeySequence::ZoomOut));

@@ -17,6 +17,7 @@
 #include "ui/preview/TSPreviewScrollView.h"
 
 #include <cmath>
+#include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
 #include <QLabel>
@@ -80,6 +81,16 @@ TSMainWindowController::~TSMainWindowController()
     // Threads that work on the session end before what they tell of it goes.
     m_photoIntake.reset();
     m_cacheFiller.reset();
+}
+
+/// Not by the toolkit's own quit(), which asks every window, and the sheet of an export would ask the user
+/// again.
+void TSMainWindowController::quit()
+{
+    if (m_export && m_export->isRunning())
+        m_export->quitRun();
+    else
+        QApplication::exit();
 }
 
 void TSMainWindowController::abandonExport()
@@ -157,6 +168,10 @@ void TSMainWindowController::initActions()
         if (m_preferences)
             m_preferences->updateCbShow();
     });
+    // Their sheets keep the keys from the window, as do the preferences.
+    m_export->addRunAction(window.quitAction);
+    m_processingWindow->addAction(window.quitAction);
+    connect(m_export.get(), &TSExportController::runWasQuit, this, &TSMainWindowController::quit);
     connect(window.loadPhotoAction, &QAction::triggered, this, &TSMainWindowController::loadPhotoAction);
     connect(window.removePhotoAction, &QAction::triggered, this,
             [this] { m_photoListEditor->removePhotoAction(); });
@@ -179,6 +194,7 @@ void TSMainWindowController::preferencesAction()
 {
     if (!m_preferences) {
         m_preferences = new TSPreferencesWindowController(m_window.get());
+        m_preferences->addAction(m_window->quitAction);
         connect(m_preferences, &TSPreferencesWindowController::showSaveInfoDidChange, m_export.get(),
                 &TSExportController::updateShowSaveInfo);
     }
@@ -223,7 +239,8 @@ void TSMainWindowController::addPhotos(const QList<QUrl> &urls)
 void TSMainWindowController::loadPhotoAction()
 {
     const QList<QUrl> urls =
-        QFileDialog::getOpenFileUrls(m_window.get(), qtTrId("ChoosePhoto"), {}, photoFilter());
+        QFileDialog::getOpenFileUrls(m_window.get(), qtTrId("ChoosePhoto"), {}, photoFilter(), nullptr,
+                                     QFileDialog::HideNameFilterDetails);
     if (!urls.isEmpty() && m_photoIntake)
         m_photoIntake->loadPhotos(urls);
 }
@@ -231,7 +248,8 @@ void TSMainWindowController::loadPhotoAction()
 void TSMainWindowController::addStickerFromFinder()
 {
     const QString path =
-        QFileDialog::getOpenFileName(m_window.get(), qtTrId("ChooseImage"), {}, photoFilter());
+        QFileDialog::getOpenFileName(m_window.get(), qtTrId("ChooseImage"), {}, photoFilter(), nullptr,
+                                     QFileDialog::HideNameFilterDetails);
     if (!path.isEmpty())
         preview().creation().addStickerWithPath(path, true);
 }

@@ -29,6 +29,8 @@ public:
     TSMainWindow &window() { return *m_window; }
     /// Takes photos in as the file panel does.
     void addPhotos(const QList<QUrl> &urls);
+    /// Ends the program; during an export only when the user agrees, and once its run has stopped.
+    void quit();
     /// For an end in which no window can be used any more: the photo under way is not written.
     void abandonExport();
 

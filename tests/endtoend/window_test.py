@@ -302,6 +302,19 @@ class WindowTest(unittest.TestCase):
         self.program = self.desktop.launch()
         self.quit()
 
+    def test_the_keys_for_quitting_act_during_an_export(self):
+        self.start_long_export()
+        bar = self.desktop.focus()[0]
+        for answer in ("Escape", "Return"):
+            self.desktop.keys("ctrl+q")
+            until("question", lambda: self.desktop.focus()[0] not in (None, bar))
+            self.desktop.keys(answer)
+            if answer == "Escape":
+                until("bar", lambda: self.desktop.focus()[0] == bar)
+                self.assertIsNone(self.program.poll())
+        self.assertEqual(self.program.wait(30), 0)
+        self.assert_interrupted()
+
     def test_the_end_of_the_session_during_an_export_leaves_whole_photos(self):
         self.start_long_export()
         self.program.terminate()

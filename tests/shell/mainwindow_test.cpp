@@ -5,6 +5,7 @@
 #include "shell/TSMainWindowController.h"
 #include "support/Session.h"
 #include "ui/photos/TSPhotoStripView.h"
+#include "ui/photos/TSThumbnailLoader.h"
 #include "ui/preview/TSPreviewScrollView.h"
 
 #include <QAbstractButton>
@@ -14,6 +15,7 @@
 #include <QDeadlineTimer>
 #include <QDialog>
 #include <QDropEvent>
+#include <QFile>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -245,27 +247,37 @@ TEST_F(MainWindowTest, ZoomAndWindowKeepTheMarkOnThePhoto)
     EXPECT_LT(session.data.canvasFrame.bottom(), window().preview->viewport()->height());
 }
 
-/// A stem that is enlarged from fewer pixels rises over several.
-TEST_F(MainWindowTest, TextHasThePixelsOfTheScreen)
+/// An edge that is enlarged from fewer pixels rises over several.
+TEST_F(MainWindowTest, MarksHaveThePixelsOfTheScreen)
 {
     addPhotos({session.writePng("a.png", plainImage({900, 600}, Qt::black))});
+    QImage stripes = plainImage({2000, 500}, Qt::black);
+    QPainter painter(&stripes);
+    // Some of their edges fall on pixels of the screen.
+    for (int x = 62; x < stripes.width(); x += 124)
+        painter.fillRect(x, 0, 62, stripes.height(), Qt::white);
+    painter.end();
     preview().creation().createNewText();
-    const auto text = std::dynamic_pointer_cast<TSText>(session.overlays.overlayAtIndex(0));
-    text->setOpacity(1);
-    preview().selection().selectOverlay(nullptr);
-    const QImage shown = window().preview->viewport()->grab().toImage();
-    const QRectF frame(text->frame().topLeft() * shown.devicePixelRatio(),
-                       text->frame().size() * shown.devicePixelRatio());
-    const QImage letters = shown.copy(frame.toAlignedRect());
-    int brightest = 0, steepest = 0;
-    for (int y = 0; y < letters.height(); ++y)
-        for (int x = 1; x < letters.width(); ++x) {
-            const int here = qGray(letters.pixel(x, y)), before = qGray(letters.pixel(x - 1, y));
-            brightest = std::max(brightest, here);
-            steepest = std::max(steepest, std::abs(here - before));
-        }
-    EXPECT_GT(brightest, 200);
-    EXPECT_GT(steepest, 0.8 * brightest);
+    preview().creation().addStickerWithPath(session.writePng("stripes.png", stripes), true);
+    const auto mark = session.overlays.overlayAtIndex(0), text = session.overlays.overlayAtIndex(1);
+    mark->setFrame(QRectF(session.data.canvasFrame.topLeft() + QPointF(31.3, 20.2), QSizeF(333, 83.25)));
+    for (const auto &overlay : {text, mark}) {
+        overlay->setOpacity(1);
+        preview().selection().selectOverlay(nullptr);
+        const QImage shown = window().preview->viewport()->grab().toImage();
+        const double scale = shown.devicePixelRatio();
+        const QImage seen = shown.copy(
+            QRectF(overlay->frame().topLeft() * scale, overlay->frame().size() * scale).toAlignedRect());
+        int brightest = 0, steepest = 0;
+        for (int y = 0; y < seen.height(); ++y)
+            for (int x = 1; x < seen.width(); ++x) {
+                const int here = qGray(seen.pixel(x, y)), before = qGray(seen.pixel(x - 1, y));
+                brightest = std::max(brightest, here);
+                steepest = std::max(steepest, std::abs(here - before));
+            }
+        EXPECT_GT(brightest, 200);
+        EXPECT_GT(steepest, 0.8 * brightest);
+    }
 }
 
 TEST_F(MainWindowTest, MarksAreToldToAssistiveTechnology)
@@ -395,6 +407,30 @@ TEST_F(MainWindowTest, RefusedFilesAreNamed)
     EXPECT_EQ(session.data.photoCount(), 1);
     EXPECT_TRUE(closer.told[0].startsWith("b.jpg: Die Datei ist kein lesbares Bild.\n"));
     EXPECT_TRUE(closer.told[0].endsWith("Das ist ein Ordner, kein Foto."));
+}
+
+/// Broken off behind its head, it is in the list and has no picture.
+TEST_F(MainWindowTest, APhotoWithoutAPictureSaysSoInItsPlace)
+{
+    const AlertCloser closer;
+    const QString broken = session.writeJpeg("broken.jpg", plainImage({900, 600}, Qt::green));
+    QFile file(broken);
+    file.resize(file.size() * 2 / 3);
+    addPhotos({session.writePng("a.png", plainImage({900, 600}, Qt::green)), broken});
+    const QImage shown = window().preview->viewport()->grab().toImage();
+    const QRectF canvas = session.data.canvasFrame;
+    const auto at = [&](const QPointF &point) {
+        return qGray(shown.pixel((point * shown.devicePixelRatio()).toPoint()));
+    };
+    EXPECT_GT(at(canvas.topLeft() - QPointF(20, 0)) - at(canvas.topLeft() + QPointF(20, 20)), 60);
+    int brightest = 0;
+    for (double x = canvas.left(); x < canvas.right(); ++x)
+        for (double y = canvas.center().y() - 6; y < canvas.center().y() + 6; ++y)
+            brightest = std::max(brightest, at({x, y}));
+    EXPECT_GT(brightest, 150) << "the words";
+    TSThumbnailLoader loader;
+    const auto item = session.data.itemAtIndex(1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !loader.thumbnail(item, 64).isNull(); }, 5000));
 }
 
 TEST_F(MainWindowTest, EveryControlHasAName)

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
@@ -166,6 +167,48 @@ TEST_F(ExportRoadTest, ACancelIsAskedAboutAndHoldsTheRun)
         closeResult();
         session.overlays.removeOverlay(trap);
     }
+}
+
+TEST_F(ExportRoadTest, AQuitIsAskedAboutAndToldWhenTheRunHasStopped)
+{
+    QAction quit;
+    quit.setShortcut(Qt::CTRL | Qt::Key_Q);
+    controller->addRunAction(&quit);
+    QObject::connect(&quit, &QAction::triggered, controller.get(), &TSExportController::quitRun);
+    bool isRunning = true;
+    int quits = 0;
+    QObject::connect(controller.get(), &TSExportController::runWasQuit, &window, [&] {
+        isRunning = controller->isRunning();
+        ++quits;
+    });
+    for (const auto &[answer, again] :
+         std::vector<std::pair<const char *, const char *>>{{"alternateButton", nullptr},
+                                                            {"alternateButton", "defaultButton"},
+                                                            {"defaultButton", nullptr}}) {
+        QDir(out).removeRecursively();
+        QDir().mkpath(out);
+        quits = 0;
+        const auto trap = addTrap();
+        start();
+        trap->reached.acquire();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(shown("ProgressBarWindow")));
+        QTest::keyClick(shown("ProgressBarWindow"), Qt::Key_Q, Qt::ControlModifier);
+        EXPECT_EQ(text("messageText"), "Stop the export and quit?");
+        click(answer);
+        if (again) {
+            // What was given up is no longer meant by a mere cancel.
+            QTest::keyClick(shown("ProgressBarWindow"), Qt::Key_Escape);
+            click(again);
+        }
+        trap->letGo.release(100);
+        ASSERT_TRUE(waitForEnd());
+        const bool isQuit = !again && answer == QLatin1String("defaultButton");
+        EXPECT_EQ(quits, int(isQuit));
+        EXPECT_EQ(files(), isQuit || again ? "" : "a.jpg b.jpg c.jpg");
+        closeResult();
+        session.overlays.removeOverlay(trap);
+    }
+    EXPECT_FALSE(isRunning);
 }
 
 TEST_F(ExportRoadTest, AQuitWaitsForNoAnswerAndLeavesNoHalves)

@@ -8,6 +8,7 @@
 #include "ui/export/TSProgressBarWindowController.h"
 #include "ui/export/TSSaveInfoWindowController.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -19,6 +20,13 @@ constexpr int largestSide = 20000;
 TSDataManager *session()
 {
     return TSDataManager::dataManager();
+}
+
+/// Not every desktop makes the folder that it names for pictures, and one that is not there cannot be chosen.
+QString firstFolder()
+{
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    return QFileInfo(pictures).isDir() ? pictures : QDir::homePath();
 }
 
 } // namespace
@@ -35,6 +43,8 @@ TSExportController::TSExportController(QWidget &window) : m_window(window)
     connect(m_pbWC, &TSProgressBarWindowController::isPausingChanged, this, [this](bool isPausing) {
         if (m_run)
             m_run->isPausing = isPausing;
+        if (!isPausing && !m_pbWC->isCancelled())
+            m_isQuitting = false;
     });
     connect(m_pbWC, &TSProgressBarWindowController::isCancelledChanged, this, [this](bool isCancelled) {
         if (m_run)
@@ -66,6 +76,18 @@ void TSExportController::abandonRun()
     m_queue.waitForDone();
 }
 
+void TSExportController::quitRun()
+{
+    m_isQuitting = isRunning();
+    if (m_isQuitting)
+        m_pbWC->askToQuit();
+}
+
+void TSExportController::addRunAction(QAction *action)
+{
+    m_pbWC->addAction(action);
+}
+
 void TSExportController::exportPhotos()
 {
     if (isRunning() || session()->photoCount() == 0)
@@ -78,8 +100,7 @@ QFileDialog *TSExportController::savePanel()
 {
     if (m_savePanel)
         return m_savePanel;
-    m_savePanel = new QFileDialog(&m_window, qtTrId("ChooseFolder"),
-                                  QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
+    m_savePanel = new QFileDialog(&m_window, qtTrId("ChooseFolder"), firstFolder());
     m_savePanel->setObjectName(QStringLiteral("savePanel"));
     m_savePanel->setFileMode(QFileDialog::Directory);
     m_savePanel->setOption(QFileDialog::ShowDirsOnly);
@@ -109,6 +130,7 @@ void TSExportController::start(const QString &folder)
 {
     m_folder = folder;
     m_report = TSExportReport();
+    m_isQuitting = false;
     m_run = std::make_unique<TSExportRun>(static_cast<TSExportHost &>(*this));
     m_pbWC->setIndeterminate(true);
     m_pbWC->setIsCancelled(false);
@@ -135,6 +157,8 @@ void TSExportController::end()
     m_run.reset();
     if (!wasCancelled)
         reportFailures();
+    else if (m_isQuitting)
+        Q_EMIT runWasQuit();
 }
 
 /// A photo that failed is told of, also where no result sheet comes.

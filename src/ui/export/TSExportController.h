@@ -14,6 +14,7 @@
 #include <QPointer>
 #include <QThreadPool>
 
+class QAction;
 class QFileDialog;
 class TSFormatWindowController;
 class TSProgressBarWindowController;
@@ -33,6 +34,12 @@ public:
     void exportPhotos();
     /// Cancels the run under way and waits for its thread, whatever it asks; no widget is touched.
     void abandonRun();
+    /// Asks whether to cancel the run under way in order to leave the program, and tells of it by
+    /// `runWasQuit` once the photo at hand has ended. A run that ends by itself before the answer is told as
+    /// ever.
+    void quitRun();
+    /// What the keys do while a run has them.
+    void addRunAction(QAction *action);
     bool isRunning() const { return m_run != nullptr; }
     /// Takes up what the preferences changed.
     void updateShowSaveInfo();
@@ -41,6 +48,7 @@ Q_SIGNALS:
     /// The user changed, on the result sheet, whether it is wanted.
     void showSaveInfoDidChange();
     void saveInfoDidClose();
+    void runWasQuit();
 
 private:
     QFileDialog *savePanel();
@@ -71,6 +79,7 @@ private:
     TSSleepInhibitor m_sleep;
     TSExportReport m_report;
     std::unique_ptr<TSExportRun> m_run;
+    bool m_isQuitting = false;
     QString m_folder;
     QThreadPool m_queue;
 };

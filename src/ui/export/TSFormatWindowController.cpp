@@ -71,6 +71,12 @@ TSFormatWindowController::TSFormatWindowController(TSOutputSettings &settings, Q
     updateBigViewRect();
 }
 
+void TSFormatWindowController::showEvent(QShowEvent *event)
+{
+    TSSheet::showEvent(event);
+    m_pubFormat->setFocus();
+}
+
 void TSFormatWindowController::makeLayout()
 {
     auto *grid = new QGridLayout;

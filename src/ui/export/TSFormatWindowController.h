@@ -31,6 +31,10 @@ public:
     void reject() override { clickCancel(); }
     void accept() override { clickOK(); }
 
+protected:
+    /// However it was left, it is gone through from the top.
+    void showEvent(QShowEvent *event) override;
+
 private:
     void makeLayout();
     void addRow(QGridLayout &grid, QLabel *label, QWidget *control);

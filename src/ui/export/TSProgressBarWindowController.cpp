@@ -90,13 +90,23 @@ void TSProgressBarWindowController::setIsCancelled(bool isCancelled)
 
 void TSProgressBarWindowController::cancelClick()
 {
+    ask(qtTrId("ConfirmCancel"));
+}
+
+void TSProgressBarWindowController::askToQuit()
+{
+    ask(qtTrId("ConfirmQuit"));
+}
+
+void TSProgressBarWindowController::ask(const QString &question)
+{
     if (m_question || m_isCancelled || isLeaving() || !m_btCancel->isVisibleTo(this))
         return;
     setIsPausing(true);
     if (m_isIndeterminate)
         setAnimated(false);
-    m_question = TSCheckBoxAlert::alertWithMessageText(qtTrId("ConfirmCancel"), qtTrId("OK"),
-                                                       qtTrId("Cancel"), {}, qtTrId("WarningCancel"), this);
+    m_question = TSCheckBoxAlert::alertWithMessageText(question, qtTrId("OK"), qtTrId("Cancel"), {},
+                                                       qtTrId("WarningCancel"), this);
     m_question->setAttribute(Qt::WA_DeleteOnClose);
     connect(m_question, &QDialog::finished, this, &TSProgressBarWindowController::confirmCancel);
     m_question->open();

@@ -33,6 +33,8 @@ public:
     void setIsCancelled(bool isCancelled);
 
     void cancelClick();
+    /// The same for whoever wants to leave the program.
+    void askToQuit();
     /// Closes the sheet, and the question when that is still up.
     void endSheet();
     /// Escape asks like the button.
@@ -43,6 +45,7 @@ Q_SIGNALS:
     void isCancelledChanged(bool isCancelled);
 
 private:
+    void ask(const QString &question);
     void confirmCancel(int answer);
     void setAnimated(bool isAnimated);
 

@@ -1,9 +1,11 @@
 #include "ui/photos/TSThumbnailLoader.h"
 
+#include "controls/TSIcon.h"
 #include "platform/ImageFile.h"
 #include "platform/ThumbnailCache.h"
 
 #include <algorithm>
+#include <QPainter>
 
 namespace {
 
@@ -20,6 +22,18 @@ QImage madeThumbnail(const TSImageBrowserItem &item, int side)
     }
     const QImage cached = platform::cachedThumbnail(item.path, side);
     return cached.isNull() ? platform::decodeThumbnail(item.path, side) : cached;
+}
+
+/// For a photo without a picture, in the light ink of the strip.
+QImage warning(int side)
+{
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    const double inset = side * 0.3;
+    TSIcon::paint(painter, QRectF(image.rect()).adjusted(inset, inset, -inset, -inset), TSIconName::Warning,
+                  QColor(0xe8, 0xe8, 0xe8));
+    return image;
 }
 
 } // namespace
@@ -76,16 +90,17 @@ void TSThumbnailLoader::serve()
             request = m_requests.front();
             m_requests.pop_front();
         }
-        const QImage image = madeThumbnail(*request.item, request.side);
+        QImage image = madeThumbnail(*request.item, request.side);
+        if (image.isNull())
+            image = warning(request.side);
         QMetaObject::invokeMethod(
             this, [this, key = request.item->imageKey(), image] { store(key, image); }, Qt::QueuedConnection);
     }
 }
 
-/// A photo that has no picture is not asked for again.
 void TSThumbnailLoader::store(const QString &imageKey, const QImage &image)
 {
-    if (image.isNull() || !m_asked.remove(imageKey))
+    if (!m_asked.remove(imageKey))
         return;
     m_images.insert(imageKey, new QImage(image), std::max<qsizetype>(1, image.sizeInBytes() / 1024));
     Q_EMIT thumbnailDidLoad(imageKey);

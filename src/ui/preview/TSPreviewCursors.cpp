@@ -1,5 +1,6 @@
 #include "ui/preview/TSPreviewCursors.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -20,21 +21,26 @@ QPainterPath turningArrow()
 }
 
 /// Dark on a light rim, to be seen on any photo.
-QCursor rotateCursor()
+QCursor rotateCursor(double scale)
 {
-    QPixmap picture(side, side);
+    QPixmap picture(QSize(side, side) * scale);
+    picture.setDevicePixelRatio(scale);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     for (const auto &[color, width] : {std::pair(Qt::white, 4.5), std::pair(Qt::black, 2.0)})
         painter.strokePath(turningArrow(), QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.end();
-    return QCursor(picture, side / 2, side / 2);
+    if (QGuiApplication::platformName() != u"xcb")
+        return QCursor(picture, side / 2, side / 2);
+    // X11 shows the pixels as they are, and the toolkit gives it the hot spot as it is.
+    picture.setDevicePixelRatio(1);
+    return QCursor(picture, picture.width() / 2, picture.height() / 2);
 }
 
 } // namespace
 
-QCursor TSPreviewCursor(TSCursor cursor)
+QCursor TSPreviewCursor(TSCursor cursor, double scale)
 {
     switch (cursor) {
     case TSCursor::arrowCursor:
@@ -52,7 +58,7 @@ QCursor TSPreviewCursor(TSCursor cursor)
     case TSCursor::tl2blCursor:
         return Qt::SizeBDiagCursor;
     case TSCursor::rotateCursor:
-        return rotateCursor();
+        return rotateCursor(scale);
     }
     return Qt::ArrowCursor;
 }

@@ -4,5 +4,5 @@
 
 #include <QCursor>
 
-/// The pointer for a shape, the last of them being drawn here.
-QCursor TSPreviewCursor(TSCursor cursor);
+/// The pointer for a shape, the last of them being drawn here, for a screen of so many pixels to a point.
+QCursor TSPreviewCursor(TSCursor cursor, double scale);

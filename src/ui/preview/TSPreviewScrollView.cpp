@@ -43,6 +43,15 @@ QStringList localPaths(const QMimeData &data)
     return paths;
 }
 
+/// In the place of a photo, so that nobody waits for it.
+void drawUnreadable(QPainter &painter, const QSizeF &canvas)
+{
+    const QRectF place(QPointF(0, 0), canvas);
+    painter.fillRect(place, QColor(0x2a, 0x2a, 0x2a));
+    painter.setPen(QColor(0xe8, 0xe8, 0xe8));
+    painter.drawText(place, int(Qt::AlignCenter) | int(Qt::TextWordWrap), qtTrId("PhotoUnreadable"));
+}
+
 bool isArrow(int key)
 {
     return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
@@ -114,7 +123,7 @@ void TSPreviewScrollView::redrawTrackerView()
 void TSPreviewScrollView::setCursor(TSCursor cursor)
 {
     m_cursor = cursor;
-    viewport()->setCursor(TSPreviewCursor(cursor));
+    viewport()->setCursor(TSPreviewCursor(cursor, devicePixelRatioF()));
 }
 
 void TSPreviewScrollView::makeFirstResponder(TSResponder)
@@ -160,7 +169,8 @@ const QPixmap &TSPreviewScrollView::canvasPicture()
     painter.drawImage(viewport()->rect(), TSPreviewBackground(viewport()->size()));
     const QRectF canvas = m_preview.layout().convertRectToOverlaysView(m_preview.layout().canvasViewFrame());
     painter.translate(canvas.topLeft() - scrollOffset());
-    m_preview.drawCanvas(painter);
+    if (!m_preview.drawCanvas(painter))
+        drawUnreadable(painter, canvas.size());
     return m_canvasPicture;
 }
 
