@@ -17,6 +17,7 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QMouseEvent>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <sys/resource.h>
@@ -133,11 +134,25 @@ public:
         return isFilled;
     }
 
+    /// Texts, and pictures of one file in sizes of their own.
+    void addMarks()
+    {
+        constexpr int pairs = 5;
+        const QString logo = m_folder.filePath(QStringLiteral("logo.png"));
+        QImage picture(1500, 600, QImage::Format_ARGB32);
+        picture.fill(QColor(255, 255, 255, 128));
+        picture.save(logo);
+        for (int i = 0; i < pairs; ++i) {
+            preview().creation().addStickerWithPath(logo, true);
+            const auto mark = TSOverlayManager::overlayManager()->overlayAtIndex(0);
+            mark->setFrame({mark->frame().topLeft(), mark->frame().size() * (1 - 0.1 * i)});
+            preview().creation().createNewText();
+        }
+    }
+
     void dragMarks()
     {
-        constexpr int marks = 10;
-        for (int i = 0; i < marks; ++i)
-            preview().creation().createNewText();
+        addMarks();
         QWidget *surface = m_window.preview->viewport();
         const auto mark = TSOverlayManager::overlayManager()->overlayAtIndex(0);
         const QRectF before = mark->frame();
@@ -192,6 +207,7 @@ private:
 
     TSMainWindowController &m_controller;
     TSMainWindow &m_window;
+    QTemporaryDir m_folder;
 };
 
 } // namespace
