@@ -74,14 +74,21 @@ bool isSRGB(QByteArrayView profile)
     return lastAnswer;
 }
 
+bool begins(VipsImage *image, const char *field, const char *value)
+{
+    const char *text = nullptr;
+    return vips_image_get_typeof(image, field) && !vips_image_get_string(image, field, &text) &&
+           QByteArrayView(text).startsWith(value);
+}
+
 /// Cameras that shoot in Adobe RGB say so in the EXIF block, by the name of the file rules that they keep to,
-/// and many embed no profile.
+/// and many embed no profile. A block that names sRGB at once is taken at its word: an editor has converted
+/// the photo and left the rest as it was.
 bool isAdobeRGBByCamera(VipsImage *image)
 {
-    constexpr const char *field = "exif-ifd4-InteroperabilityIndex";
-    const char *rules = nullptr;
-    return vips_image_get_typeof(image, field) && !vips_image_get_string(image, field, &rules) &&
-           QByteArrayView(rules).startsWith("R03");
+    constexpr const char *sRGB = "1 ";
+    return begins(image, "exif-ifd4-InteroperabilityIndex", "R03") &&
+           !begins(image, "exif-ifd2-ColorSpace", sRGB);
 }
 
 VipsImagePtr withAdobeRGBProfile(VipsImage *image)
