@@ -59,8 +59,8 @@ TEST_F(WildcardsTest, EveryRowOfTheList)
     const std::tuple<TSTokenValue, const char *, const char *> rows[] = {
         {"©", "©", "©"},
         {named("NAME"), "holiday.tar", "{NAME}"},
-        {dated<TSDateCreatedToken>(2), "03-31-2024", "{C_DATE}"},
-        {dated<TSDateModifiedToken>(1), "04 01", "{M_DATE}"},
+        {dated<TSDateCreatedToken>(2), "03-30-2024", "{C_DATE}"},
+        {dated<TSDateModifiedToken>(1), "03 31", "{M_DATE}"},
         {named("COUNTER"), "3", "{COUNTER}"},
         {named("MODEL"), " X-1 ", "{MODEL}"},
         {named("EXPOSURE"), "1 / 250", "{EXPOSURE}"},
@@ -75,7 +75,7 @@ TEST_F(WildcardsTest, EveryRowOfTheList)
         EXPECT_EQ(words(photo, {value}), text);
         EXPECT_EQ(words(photo, {value}, true), name);
     }
-    EXPECT_EQ(words(photo, {dated<TSDateCreatedToken>(0)}), "Mar 31, 2024");
+    EXPECT_EQ(words(photo, {dated<TSDateCreatedToken>(0)}), "Mar 30, 2024");
     EXPECT_EQ(words(photo, {dated<TSTimeShootingToken>(0)}), "23:04:05");
 }
 
