@@ -2,7 +2,6 @@
 #include "support/Pictures.h"
 
 #include <gtest/gtest.h>
-#include <random>
 
 using bytes::carried;
 
@@ -237,26 +236,6 @@ TEST(CarriedMetadata, SignsExtendedXmpAnew)
     const QByteArray incomplete = inserted(bytes::xmpExtension(bytes::md5(before), before, 0, 100));
     EXPECT_EQ(incomplete, bytes::xmpExtension(bytes::md5(before), after, 0, 100)) << "parts are missing";
 }
-
-TEST(CarriedMetadata, SurvivesGarbage)
-{
-    bytes::Exif exif{.bigEndian = true, .note = bytes::jpeg({30, 20}), .thumbnail = bytes::jpeg({40, 30})};
-    const QByteArray resources =
-        bytes::resource(0x0404, QByteArray("\x1C\x02\xCA\x80\x04\0\0\0\x09", 9) + "previewed") +
-        bytes::resource(0x040C, QByteArray(28, '\1') + bytes::jpeg({9, 9}));
-    const QByteArray blocks[] = {exif.block(), resources};
-    std::mt19937 random(1);
-    for (int round = 0; round < 1000; ++round) {
-        const QByteArray &whole = blocks[round % 2];
-        QByteArray block = round % 3 ? whole : whole.chopped(random() % 200);
-        const qsizetype reach = std::min<qsizetype>(block.size(), round % 4 < 2 ? block.size() : 1024);
-        for (unsigned change = random() % 20; change > 0; --change)
-            block[qsizetype(random()) % reach] = char(random());
-        const QByteArray segment = round % 2 ? bytes::photoshopSegment(block) : bytes::exifSegment(block);
-        EXPECT_EQ(inserted(segment, round % 8 ? QImage() : mark()).size(), segment.size());
-    }
-}
-
 TEST(CarriedMetadata, BlanksPictureFilesOfOtherFormats)
 {
     const auto box = [](const char *type, const QByteArray &content) {
