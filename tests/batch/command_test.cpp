@@ -46,11 +46,7 @@ protected:
         return result;
     }
     QString outFolder() const { return session.path("out"); }
-    QStringList files() const
-    {
-        return QDir(outFolder())
-            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    }
+    QStringList files() const { return filesIn(outFolder()); }
 
     QString mark;
     QByteArray output;

@@ -81,10 +81,7 @@ protected:
         QDir(out).removeRecursively();
         QDir().mkpath(out + u'/' + subfolder);
     }
-    QStringList files() const
-    {
-        return QDir(out).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    }
+    QStringList files() const { return filesIn(out); }
     QStringList savedNames(const TSExportRun &of) const
     {
         return of.savedPaths().join(u',').remove(out + u'/').split(u',', Qt::SkipEmptyParts);

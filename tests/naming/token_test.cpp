@@ -86,9 +86,7 @@ TEST_F(TokenTest, DatesReadAsExamplesAndExpandByIndex)
     TSDateModifiedToken modified;
     TSDateShootingToken shot;
     TSTimeShootingToken time;
-    for (TSDateTimeToken *token :
-         {static_cast<TSDateTimeToken *>(&created), static_cast<TSDateTimeToken *>(&modified),
-          static_cast<TSDateTimeToken *>(&shot)})
+    for (TSDateTimeToken *token : std::initializer_list<TSDateTimeToken *>{&created, &modified, &shot})
         EXPECT_EQ(expansions(*token), QStringLiteral("Mar 31, 2024|03 31|03-31-2024|03/31/2024"))
             << token->name().toStdString();
     EXPECT_EQ(expansions(time), QStringLiteral("01:05:09|01 05|01-05-09|01/05/09"));
