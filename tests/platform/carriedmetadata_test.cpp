@@ -1,4 +1,5 @@
 #include "platform/metadata_bytes.h"
+#include "platform/MetadataBlobs.h"
 #include "support/Pictures.h"
 
 #include <gtest/gtest.h>
@@ -73,6 +74,8 @@ TEST(CarriedMetadata, CarriesBlocksInTheirOrderWithExifFirst)
                               bytes::segment(0xED, "unknown") + bytes::segment(0xFE, "comment");
     EXPECT_EQ(inserted(xmp + others + photoshop + exif), exif + xmp + photoshop);
     EXPECT_EQ(inserted(strange), strange);
+    const QByteArray old = bytes::segment(0xED, "Adobe_Photoshop2.5:" + bytes::resource(0x03ED, "old"));
+    EXPECT_EQ(inserted(old), old);
     EXPECT_TRUE(carried(others).isEmpty());
     EXPECT_EQ(carried(others).insertedInto(Photo, mark()), Photo);
     EXPECT_EQ(carried(exif).insertedInto("no JPEG", mark()), "no JPEG");
@@ -276,4 +279,20 @@ TEST(CarriedMetadata, BlanksPicturesOfNestedStructures)
                              bytes::resource(0x040C, QByteArray(28, '\1') + pixels);
     EXPECT_EQ(inserted(bytes::photoshopSegment(block)),
               bytes::photoshopSegment(QByteArray(block).replace(pixels, zeros(90))));
-}
+
+    /// Other formats keep a block in one piece.
+    TEST(CarriedMetadata, CutsWhatIsTooLongForASegment)
+    {
+        const QByteArray photoshop = bytes::resource(0x03ED, QByteArray(150000, 'r'));
+        const QByteArray exif =
+            bytes::Exif{.note = QByteArray(70000, 'n'), .thumbnail = bytes::jpeg({8, 6})}.block();
+        const auto metadata = platform::CarriedMetadata::ofBlobs({exif, {}, photoshop});
+        const auto file = platform::JpegFile::fromBytes(metadata.insertedInto(Photo, mark()));
+        EXPECT_EQ(file->size(), QSize(64, 48));
+        const auto back = platform::CarriedMetadata::ofJpeg(*file);
+        EXPECT_EQ(back.photoshopResources(), photoshop);
+        const auto fields = platform::TiffStructure::read(back.exif());
+        ASSERT_TRUE(fields);
+        EXPECT_EQ(fields->number(fields->chain().front(), 0x0112), 6u);
+        EXPECT_FALSE(back.exif().contains("nnnn"));
+    }
