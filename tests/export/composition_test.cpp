@@ -74,8 +74,10 @@ QPointF middleOf(const QImage &image, const QColor &color)
 TEST_F(CompositionTest, AMarkFillsItsFrameToThePixel)
 {
     addPhoto("a.png", {400, 300});
+    takeIn(session.writeTiff("frame.tif", plainImage({400, 300})));
     addMark({300, 240, 60, 30});
     EXPECT_EQ(markOn(0, {400, 300}), QRect(300, 240, 60, 30));
+    EXPECT_EQ(markOn(1, {400, 300}), QRect(300, 240, 60, 30)) << "on pixels that are there already";
     EXPECT_EQ(markOn(0, {800, 600}), QRect(600, 480, 120, 60));
     EXPECT_EQ(markOn(0, {100, 75}), QRect(75, 60, 15, 8)) << "67.5 rounds down the page";
     EXPECT_EQ(markOn(0, {400, 150}), QRect(330, 120, 30, 15)) << "a stretched photo keeps the mark's shape";
@@ -91,6 +93,7 @@ TEST_F(CompositionTest, TheFirstMarkLiesOnTopAndOpacityBlends)
     const QImage image = pixels(0, {100, 100});
     EXPECT_EQ(extentOf(image, Qt::red), QRect(30, 20, 40, 20));
     EXPECT_EQ(image.pixelColor(29, 25), QColor(Qt::blue));
+    EXPECT_EQ(image.pixelColor(49, 29), QColor(Qt::red)) << "where both lie";
     const QColor blended = image.pixelColor(80, 70);
     EXPECT_NEAR(blended.red(), 64, 2);
     EXPECT_NEAR(blended.green(), 191, 2);
