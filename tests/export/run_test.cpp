@@ -265,15 +265,6 @@ TEST_F(RunTest, AFailedWriteIsLeftBehind)
     }
 }
 
-TEST_F(RunTest, TheFirstPathIsToldThoughItsWriteFailed)
-{
-    addPhotos({"a", "b"});
-    session.data.exportNames = words("no/a b");
-    run.savePhotos(out);
-    EXPECT_EQ(savedNames(run), words("no/a.jpg b.jpg"));
-    EXPECT_EQ(host.heard, words("close saved:a.jpg"));
-}
-
 TEST_F(RunTest, ACancelTakesEffectAtTheNextGate)
 {
     addPhotos({"a", "b", "c"});

@@ -86,15 +86,6 @@ TEST_F(NamePatternTest, NeverCutsANumber)
     EXPECT_EQ(m_session.exportNames.last(), "101");
 }
 
-TEST_F(NamePatternTest, EmptyPatternEmptiesTheNamesAlone)
-{
-    addPhoto("/p/a.jpg");
-    names({m_pattern.tfName()});
-    EXPECT_EQ(names({}), QString());
-    EXPECT_EQ(m_session.nameToken, 1);
-    EXPECT_EQ(m_pattern.tfExample(), "Name");
-}
-
 TEST_F(NamePatternTest, FollowsMenuChoicesOncePhotosAreThere)
 {
     m_pattern.initObserver();

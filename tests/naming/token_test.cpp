@@ -56,21 +56,6 @@ TEST_F(TokenTest, NameChangesAddUpAndGoBack)
     EXPECT_EQ(m_wildcardChanges, 0);
 }
 
-TEST_F(TokenTest, NumberWidensByItsMenu)
-{
-    TSNumberToken token;
-    EXPECT_EQ(token.tokenMenu().join(u' '), QStringLiteral("0 00 000 0000"));
-    EXPECT_EQ(token.showName(), QStringLiteral("1"));
-    for (int item = 3; item >= 0; --item) {
-        token.editCellAction(item);
-        EXPECT_EQ(token.showName(), QString(item, u'0') + u'1');
-    }
-    token.editCellAction(4);
-    token.editCellAction(-1);
-    EXPECT_EQ(token.showName(), QStringLiteral("1"));
-    EXPECT_EQ(m_exampleChanges, 4);
-}
-
 TEST_F(TokenTest, DatesReadAsExamplesAndExpandByIndex)
 {
     const auto expansions = [](TSDateTimeToken &token) {

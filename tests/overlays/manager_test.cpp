@@ -161,32 +161,6 @@ TEST_F(ManagerTest, DissolvedMembersStayWhereTheyAreSeen)
     EXPECT_NE(outer->wmAlignment(), 9u);
 }
 
-TEST_F(ManagerTest, RowOfTheShownPhotoIsLoaded)
-{
-    session.addPhotos(2);
-    TSSetBatchControlOverlay(false);
-    const auto overlay = put({10, 20, 100, 50});
-    const auto calculator = put({1, 2, 3, 4});
-    overlay->updateAlignmentAndRatio();
-    overlay->updateOffsetPixel();
-    overlay->appendRow();
-    overlay->appendRow();
-    session.photos.setSelectedPhoto(1);
-    overlay->setFrame({600, 500, 100, 50});
-    m_walks.updateSelectedOverlaysRatioOfFrame({overlay});
-    m_walks.updateSelectedOverlaysOffsetPixel({overlay});
-    for (const unsigned unit : {TSOffsetUnit::Percentage, TSOffsetUnit::Pixel}) {
-        session.data.pUnit = unit;
-        m_walks.updateOverlaysForPhoto(*session.photos.photoAtIndex(0), false);
-        expectRect(overlay->frame(), 10, 20, 100, 50);
-        m_walks.updateOverlaysForPhoto(*session.photos.photoAtIndex(1), false);
-        expectRect(overlay->frame(), 600, 500, 100, 50);
-    }
-    m_walks.updateOverlaysRatioPixelAlignmentAfterPhotoChanged(TSPhoto());
-    EXPECT_EQ(overlay->wmAlignment(), 4u) << "a photo that is not in the list changes nothing";
-    EXPECT_EQ(calculator->wmAlignment(), 9u);
-}
-
 TEST_F(ManagerTest, SelectionMovesToAnAnchorAsOneBlock)
 {
     const auto a = put({100, 100, 100, 50});
