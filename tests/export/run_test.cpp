@@ -144,10 +144,13 @@ TEST_F(RunTest, ATakenNameIsAskedAboutOnce)
 TEST_F(RunTest, PhotosAreToldOfInOrderOnceTheirFilesAreThere)
 {
     addPhotos({"a", "b", "c", "d"});
-    session.write("b.png", "no picture any more");
-    session.data.exportNames = words("c b A a");
+    session.write("c.png", "no picture any more");
+    session.write("out/A.jpg", "there");
+    session.data.exportNames = words("c A c a");
+    host.answer = TSConflictChoice::Replace;
     const std::thread::id caller = std::this_thread::get_id();
     QStringList told;
+    host.whenTaken = [&told] { EXPECT_EQ(told, words("c.jpg")); };
     host.whenDone = [&](size_t) {
         const TSExportOutcome &outcome = host.outcomes.back();
         const bool isWritten = outcome.status == Status::Written;
@@ -157,7 +160,7 @@ TEST_F(RunTest, PhotosAreToldOfInOrderOnceTheirFilesAreThere)
         EXPECT_EQ(std::this_thread::get_id(), caller);
     };
     run.savePhotos(out);
-    EXPECT_EQ(told, words("c.jpg damaged A.jpg a.jpg"));
+    EXPECT_EQ(told, words("c.jpg A.jpg damaged a.jpg"));
 
     const std::tuple<const char *, const char *, bool> names[] = {{"a", "a.jpg", true},
                                                                   {"a", "a_001.jpg", true},
