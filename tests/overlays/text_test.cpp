@@ -195,6 +195,7 @@ TEST_F(TextTest, TilesFillTheCanvasFromItsCornerOn)
     text->setTileHeight(60);
     text->updateRenderTextImage();
     const QSizeF pitch = text->textSizeOfScript();
+    EXPECT_DOUBLE_EQ(pitch.height(), 30 + 15.625) << "with a gap of 50 on 800 by 800";
     const auto inkOfTile = [&](int column, int row, const QPointF &shift = {}) {
         text->setScriptOrigin(shift);
         const QPointF corner((column + shift.x()) * pitch.width(), (row + shift.y()) * pitch.height());

@@ -96,6 +96,6 @@ TEST(JpegFile, FindsTheEndOfPicturesLargerThanAWindow)
             << length;
         EXPECT_EQ(JpegFile::fromBytes(structure(data).chopped(2))->remainder(), JpegRemainder()) << length;
     }
-    const QByteArray stuffed = QByteArray("x\xFF\0\xFF\xD0", 5).repeated(window);
+    const QByteArray stuffed = QByteArray("x\xFF\0\xFF\xD0\xFF\xD7", 7).repeated(window);
     EXPECT_EQ(JpegFile::fromBytes(structure(stuffed))->remainder(), JpegRemainder());
 }
