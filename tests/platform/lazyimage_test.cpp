@@ -195,7 +195,8 @@ TEST_F(LazyImageTest, ThumbnailsHoldMeansOfWhatStreamedBy)
             picture.setPixelColor(x, y, QColor(200, 100, 40, 51));
     platform::ThumbnailCollector collector({64, 32}, {4, 2});
     for (const int y : {20, 0, 7})
-        collector.add(picture.copy(0, y, 64, y == 0 ? 7 : y == 7 ? 13 : 12), {0, y});
+        for (const int x : {0, 24})
+            collector.add(picture.copy(x, y, x == 0 ? 24 : 40, y == 0 ? 7 : y == 7 ? 13 : 12), {x, y});
     const QImage thumbnail = collector.thumbnail();
     ASSERT_EQ(thumbnail.size(), QSize(4, 2));
     expectColor(thumbnail.pixelColor(3, 0), QColor(200, 100, 40), 0);
