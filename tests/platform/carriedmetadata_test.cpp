@@ -279,20 +279,21 @@ TEST(CarriedMetadata, BlanksPicturesOfNestedStructures)
                              bytes::resource(0x040C, QByteArray(28, '\1') + pixels);
     EXPECT_EQ(inserted(bytes::photoshopSegment(block)),
               bytes::photoshopSegment(QByteArray(block).replace(pixels, zeros(90))));
+}
 
-    /// Other formats keep a block in one piece.
-    TEST(CarriedMetadata, CutsWhatIsTooLongForASegment)
-    {
-        const QByteArray photoshop = bytes::resource(0x03ED, QByteArray(150000, 'r'));
-        const QByteArray exif =
-            bytes::Exif{.note = QByteArray(70000, 'n'), .thumbnail = bytes::jpeg({8, 6})}.block();
-        const auto metadata = platform::CarriedMetadata::ofBlobs({exif, {}, photoshop});
-        const auto file = platform::JpegFile::fromBytes(metadata.insertedInto(Photo, mark()));
-        EXPECT_EQ(file->size(), QSize(64, 48));
-        const auto back = platform::CarriedMetadata::ofJpeg(*file);
-        EXPECT_EQ(back.photoshopResources(), photoshop);
-        const auto fields = platform::TiffStructure::read(back.exif());
-        ASSERT_TRUE(fields);
-        EXPECT_EQ(fields->number(fields->chain().front(), 0x0112), 6u);
-        EXPECT_FALSE(back.exif().contains("nnnn"));
-    }
+/// Other formats keep a block in one piece.
+TEST(CarriedMetadata, CutsWhatIsTooLongForASegment)
+{
+    const QByteArray photoshop = bytes::resource(0x03ED, QByteArray(150000, 'r'));
+    const QByteArray exif =
+        bytes::Exif{.note = QByteArray(70000, 'n'), .thumbnail = bytes::jpeg({8, 6})}.block();
+    const auto metadata = platform::CarriedMetadata::ofBlobs({exif, {}, photoshop});
+    const auto file = platform::JpegFile::fromBytes(metadata.insertedInto(Photo, mark()));
+    EXPECT_EQ(file->size(), QSize(64, 48));
+    const auto back = platform::CarriedMetadata::ofJpeg(*file);
+    EXPECT_EQ(back.photoshopResources(), photoshop);
+    const auto fields = platform::TiffStructure::read(back.exif());
+    ASSERT_TRUE(fields);
+    EXPECT_EQ(fields->number(fields->chain().front(), 0x0112), 6u);
+    EXPECT_FALSE(back.exif().contains("nnnn"));
+}

@@ -210,7 +210,7 @@ TEST_F(LazyImageTest, BitmapsThatBreakOffAreNoPictures)
 {
     for (const auto format : {QImage::Format_RGB32, QImage::Format_Indexed8, QImage::Format_Mono}) {
         const QString whole = path("whole.bmp");
-        ASSERT_TRUE(plain({33, 20}, Qt::white).convertToFormat(format).save(whole, "BMP"));
+        ASSERT_TRUE(plainImage({33, 20}, Qt::white).convertToFormat(format).save(whole, "BMP"));
         EXPECT_EQ(platform::decodeImage(whole).pixelColor(32, 19), QColor(Qt::white));
         QFile file(whole);
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
@@ -225,7 +225,7 @@ TEST_F(LazyImageTest, TheCameraTellsOfAdobeRGBWhereNoProfileDoes)
     const platform::VipsImagePtr image = flat({100, 150, 50}, VIPS_FORMAT_UCHAR, VIPS_INTERPRETATION_sRGB);
     for (const char *rules : {"R03", "R98"}) {
         vips_image_set_string(image.get(), "exif-ifd4-InteroperabilityIndex", rules);
-        const LazyImage opened = LazyImage::open(write("camera.jpg", image.get()), {});
+        const LazyImage opened = LazyImage::open(writePixels("camera.jpg", image.get()), {});
         expectColor(opened.inSRGB().toImage().pixelColor(8, 8),
                     rules == std::string("R03") ? moved : QColor(100, 150, 50), 2);
     }
