@@ -23,6 +23,6 @@ function(tessaro_test name room)
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE ${room} ${support} GTest::gtest)
     add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 300
+    set_tests_properties(${name} PROPERTIES TIMEOUT 900
         ENVIRONMENT "${TESSARO_TEST_ENVIRONMENT}")
 endfunction()

@@ -89,20 +89,6 @@ int TSOutputSettings::top(TSSizeField field)
     return row(field).top;
 }
 
-std::optional<int> TSOutputSettings::typedNumber(QStringView text, int top)
-{
-    if (text.isEmpty())
-        return std::nullopt;
-    const QStringView trimmed = text.trimmed();
-    int number = 0;
-    for (const QChar c : trimmed.mid(trimmed.startsWith(u'+') ? 1 : 0)) {
-        if (c < u'0' || c > u'9' || number > top)
-            break;
-        number = number * 10 + c.digitValue();
-    }
-    return std::clamp(number, 1, top);
-}
-
 void TSOutputSettings::initSettingsView()
 {
     const auto &defaults = platform::UserDefaults::standard();
@@ -147,12 +133,6 @@ void TSOutputSettings::qualityChanged(int percent)
     TSDataManager::dataManager()->quality = m_quality / 100.0;
 }
 
-void TSOutputSettings::qualityTyped(QStringView text)
-{
-    if (const auto number = typedNumber(text, kTopQuality))
-        qualityChanged(*number);
-}
-
 void TSOutputSettings::resizeWayChanged(qint64 index)
 {
     m_pubResizeWay = knownIndex(index, resizeWayTitles());
@@ -165,14 +145,13 @@ void TSOutputSettings::resizeWayChanged(qint64 index)
 
 void TSOutputSettings::sizeChanged(TSSizeField field, int value)
 {
-    storeSize(field, std::clamp(value, 1, top(field)));
+    sizeTyped(field, value);
     platform::UserDefaults::standard().synchronize();
 }
 
-void TSOutputSettings::sizeTyped(TSSizeField field, QStringView text)
+void TSOutputSettings::sizeTyped(TSSizeField field, int value)
 {
-    if (const auto number = typedNumber(text, top(field)))
-        storeSize(field, *number);
+    storeSize(field, std::clamp(value, 1, top(field)));
 }
 
 void TSOutputSettings::sizeDidEndEditing()

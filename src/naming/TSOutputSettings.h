@@ -3,7 +3,6 @@
 #include "naming/TSNamePattern.h"
 
 #include <array>
-#include <optional>
 #include <QString>
 #include <QStringList>
 
@@ -23,9 +22,6 @@ public:
     static const QStringList &resizeWayTitles();
     /// The greatest number that a size may have.
     static int top(TSSizeField field);
-    /// What a field holds after a keystroke left `text` in it: the number it begins with, kept from 1 to
-    /// `top`. Nothing for an empty text, which changes nothing.
-    static std::optional<int> typedNumber(QStringView text, int top);
 
     TSNamePattern &namePattern() { return m_namePattern; }
 
@@ -40,7 +36,6 @@ public:
 
     /// The quality in percent; by slider or stepper, or typed.
     void qualityChanged(int percent);
-    void qualityTyped(QStringView text);
     int quality() const { return m_quality; }
 
     void resizeWayChanged(qint64 index);
@@ -48,7 +43,7 @@ public:
 
     /// A size by its stepper, or typed.
     void sizeChanged(TSSizeField field, int value);
-    void sizeTyped(TSSizeField field, QStringView text);
+    void sizeTyped(TSSizeField field, int value);
     /// The end of typing in a size field: the preview follows only now.
     void sizeDidEndEditing();
     int size(TSSizeField field) const { return m_sizes[size_t(field)]; }

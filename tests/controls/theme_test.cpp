@@ -37,11 +37,7 @@ QImage painted(TSIcon::Name name)
 
 TEST(Theme, CanBeReadAndDoesNotTintPhotos)
 {
-    struct Pair {
-        QPalette::ColorRole ink, surface;
-        double least;
-    };
-    const Pair pairs[] = {
+    const std::tuple<QPalette::ColorRole, QPalette::ColorRole, double> pairs[] = {
         {QPalette::WindowText, QPalette::Window, 7},
         {QPalette::Text, QPalette::Base, 7},
         {QPalette::ButtonText, QPalette::Button, 7},

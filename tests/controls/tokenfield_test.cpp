@@ -159,6 +159,7 @@ TEST_F(TokenFieldTest, TakesTokensFromAPalette)
                      [&](const TSFieldToken &token) { field.insertParts({token}); });
     QTest::mouseClick(&pill, Qt::LeftButton);
     QTest::mouseDClick(&pill, Qt::LeftButton);
+    QTest::mouseRelease(&pill, Qt::LeftButton);
     EXPECT_EQ(told(field), "[Name]|_x|[Number]|[Date]");
     EXPECT_EQ(std::get<TSFieldToken>(field.parts().back()).object, QVariant(4));
     EXPECT_EQ(changes.count(), 2);

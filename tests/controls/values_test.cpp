@@ -37,12 +37,7 @@ protected:
 
 TEST_F(TrioTest, CorrectsTheFieldWithEachKey)
 {
-    struct Row {
-        int minimum, maximum;
-        const char *keys, *text;
-        int value;
-    };
-    const Row rows[] = {
+    const std::tuple<int, int, const char *, const char *, int> rows[] = {
         {1, 9999, "12a", "12", 12},
         {1, 9999, "a", "1", 1},
         {1, 9999, "99999", "9999", 9999},
@@ -56,13 +51,13 @@ TEST_F(TrioTest, CorrectsTheFieldWithEachKey)
         {0, 100, "99999999999999", "100", 100},
         {0, 100, "", "", 42},
     };
-    for (const Row &row : rows) {
-        trio.setRange(row.minimum, row.maximum);
+    for (const auto &[minimum, maximum, keys, text, value] : rows) {
+        trio.setRange(minimum, maximum);
         trio.setValue(42);
-        EXPECT_EQ(typed(row.keys), row.text) << row.keys;
-        EXPECT_EQ(trio.value(), row.value) << row.keys;
-        EXPECT_EQ(trio.slider()->value(), row.value) << row.keys;
-        EXPECT_EQ(trio.field()->value(), row.value) << row.keys;
+        EXPECT_EQ(typed(keys), text) << keys;
+        EXPECT_EQ(trio.value(), value) << keys;
+        EXPECT_EQ(trio.slider()->value(), value) << keys;
+        EXPECT_EQ(trio.field()->value(), value) << keys;
     }
 }
 
@@ -103,10 +98,9 @@ TEST_F(TrioTest, GoesRoundWhereAnglesDo)
 TEST_F(TrioTest, StepsOnWhileHeld)
 {
     QTest::mousePress(trio.stepper(), Qt::LeftButton, {}, {8, 4});
-    QTest::qWait(700);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return trio.value() >= 3; }, 120000));
     QTest::mouseRelease(trio.stepper(), Qt::LeftButton, {}, {8, 4});
     const int held = trio.value();
-    EXPECT_GE(held, 3);
     QTest::qWait(150);
     EXPECT_EQ(trio.value(), held);
 }

@@ -65,12 +65,7 @@ TEST_F(WindowsTest, ASheetHangsFromItsWindowAndGoesWithIt)
 
 TEST_F(WindowsTest, AnAlertAnswersByButton)
 {
-    struct Row {
-        const char *alternate, *other, *button;
-        Qt::Key key;
-        int answer;
-    };
-    const Row rows[] = {
+    const std::tuple<const char *, const char *, const char *, Qt::Key, int> rows[] = {
         {"Cancel", "", "defaultButton", Qt::Key_unknown, 1},
         {"Cancel", "", "alternateButton", Qt::Key_unknown, 0},
         {"Cancel", "Stop", "otherButton", Qt::Key_unknown, -1},
@@ -78,15 +73,15 @@ TEST_F(WindowsTest, AnAlertAnswersByButton)
         {"", "", "", Qt::Key_Escape, 1},
         {"Cancel", "Stop", "", Qt::Key_Return, 1},
     };
-    for (const Row &row : rows) {
-        TSCheckBoxAlert *shown = alert(row.alternate, row.other);
+    for (const auto &[alternate, other, button, key, answer] : rows) {
+        TSCheckBoxAlert *shown = alert(alternate, other);
         const QSignalSpy finished(shown, &QDialog::finished);
-        if (row.key != Qt::Key_unknown)
-            QTest::keyClick(shown, row.key);
+        if (key != Qt::Key_unknown)
+            QTest::keyClick(shown, key);
         else
-            QTest::mouseClick(shown->findChild<QPushButton *>(QLatin1String(row.button)), Qt::LeftButton);
-        ASSERT_EQ(finished.count(), 1) << row.button;
-        EXPECT_EQ(finished[0][0].toInt(), row.answer) << row.button;
+            QTest::mouseClick(shown->findChild<QPushButton *>(QLatin1String(button)), Qt::LeftButton);
+        ASSERT_EQ(finished.count(), 1) << button;
+        EXPECT_EQ(finished[0][0].toInt(), answer) << button;
         delete shown;
     }
     TSCheckBoxAlert *three = alert("Replace", "Stop");

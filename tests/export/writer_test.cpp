@@ -182,7 +182,7 @@ TEST_F(WriterTest, WhatIsGivenUpOrDamagedLeavesNothing)
     QByteArray damaged = photo;
     damaged.replace(damaged.size() / 2, 2, "\xFF\xD9");
     takeIn(session.write("c.jpg", damaged));
-    const QStringList before = QDir(session.folder.path()).entryList(QDir::AllEntries | QDir::Hidden);
+    const QStringList before = filesIn(session.folder.path());
     for (const auto &[type, name] : types) {
         for (const int asked : {0, 1, 3}) {
             int count = 0;
@@ -199,5 +199,5 @@ TEST_F(WriterTest, WhatIsGivenUpOrDamagedLeavesNothing)
     write(TSFileType::JPG, "long.jpg", {65501, 2});
     EXPECT_TRUE(m_result.reason.startsWith(u"A JPEG picture has at most 65500"))
         << m_result.reason.toStdString();
-    EXPECT_EQ(QDir(session.folder.path()).entryList(QDir::AllEntries | QDir::Hidden), before);
+    EXPECT_EQ(filesIn(session.folder.path()), before);
 }

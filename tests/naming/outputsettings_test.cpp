@@ -2,7 +2,6 @@
 #include "platform/UserDefaults.h"
 #include "session/TSDataManager.h"
 #include "session/TSNotificationCenter.h"
-#include "session/TSPhoto.h"
 #include "session/TSPhotoManager.h"
 
 #include <gtest/gtest.h>
@@ -14,8 +13,6 @@ protected:
     OutputSettingsTest()
     {
         QObject::connect(&m_center, &TSNotificationCenter::TSResizingPhotoView, [this] { ++m_resizings; });
-        QObject::connect(&m_center, &TSNotificationCenter::TSOutputSizeOrNameChanged,
-                         [this] { ++m_nameChanges; });
         keep("ByWidth", 2400);
         keep("ByHeight", 1200);
         keep("ByPercentage", 50);
@@ -24,7 +21,6 @@ protected:
     }
 
     void keep(const char *key, qint64 value) { m_defaults->setInteger(key, value); }
-    qint64 kept(const char *key) const { return m_defaults->integerForKey(key); }
 
     std::unique_ptr<platform::UserDefaults> m_defaults = platform::UserDefaults::inMemory();
     TSNotificationCenter m_center;
@@ -32,7 +28,6 @@ protected:
     TSPhotoManager m_photos;
     TSOutputSettings m_settings;
     int m_resizings = 0;
-    int m_nameChanges = 0;
 };
 
 } // namespace
@@ -60,20 +55,6 @@ TEST_F(OutputSettingsTest, StartsFromTheDefaults)
     EXPECT_EQ(m_session.resizeWay, TSResizeWay::KeepOriginalSize);
 }
 
-TEST_F(OutputSettingsTest, FormatsKeepTheQuality)
-{
-    m_settings.initSettingsView();
-    m_photos.addPhoto(std::make_shared<TSPhoto>());
-    m_settings.qualityTyped(u"40");
-    m_settings.formatChanged(3);
-    EXPECT_EQ(m_session.type, TSFileType::TIFF);
-    EXPECT_EQ(m_session.exportFormat, "tiff");
-    EXPECT_EQ(kept("ExportFormat"), 3);
-    EXPECT_FALSE(m_settings.isQualityEnabled());
-    EXPECT_EQ(m_session.quality, 0.4);
-    EXPECT_EQ(m_nameChanges, 1) << "the extension shows in the tip";
-}
-
 TEST_F(OutputSettingsTest, EveryWayBringsItsOwnSizesBack)
 {
     m_settings.initSettingsView();
@@ -82,34 +63,9 @@ TEST_F(OutputSettingsTest, EveryWayBringsItsOwnSizesBack)
     EXPECT_EQ(m_session.outputWidth, 2400);
     m_settings.sizeChanged(TSSizeField::ByWidth, 20000);
     EXPECT_EQ(m_session.outputWidth, 9999);
-    EXPECT_EQ(kept("ByWidth"), 9999);
+    m_settings.sizeTyped(TSSizeField::ByWidth, 0);
+    EXPECT_EQ(m_session.outputWidth, 1);
     m_settings.resizeWayChanged(TSResizeWay::FitSize);
     EXPECT_EQ(m_session.outputWidth, 800);
     EXPECT_EQ(m_session.outputHeight, 600);
-    m_settings.resizeWayChanged(TSResizeWay::ByPercentage);
-    m_settings.sizeTyped(TSSizeField::ByPercentage, u"1001");
-    EXPECT_EQ(m_session.percentage, 1000);
-    m_settings.sizeTyped(TSSizeField::ByPercentage, u"");
-    EXPECT_EQ(m_session.percentage, 1000);
-    EXPECT_EQ(kept("ResizeStyle"), 3);
-    EXPECT_EQ(m_resizings, 1) << "the preview waits for the end of typing";
-    m_settings.sizeDidEndEditing();
-    EXPECT_EQ(m_resizings, 2);
-}
-
-TEST(OutputSettings, TypedNumbersStayInTheirRange)
-{
-    const std::tuple<const char16_t *, int, std::optional<int>> cases[] = {
-        {u"12a", 9999, 12},
-        {u"", 9999, std::nullopt},
-        {u"0", 9999, 1},
-        {u"-5", 9999, 1},
-        {u"101", 100, 100},
-        {u" 7 ", 9999, 7},
-        {u"99999999999999999999", 100, 100},
-        {u"٣", 100, 1},
-        {u"3.9", 100, 3},
-        {u"+8", 100, 8}};
-    for (const auto &[text, top, number] : cases)
-        EXPECT_EQ(TSOutputSettings::typedNumber(text, top), number) << QString::fromUtf16(text).toStdString();
 }

@@ -56,21 +56,6 @@ TEST_F(TokenTest, NameChangesAddUpAndGoBack)
     EXPECT_EQ(m_wildcardChanges, 0);
 }
 
-TEST_F(TokenTest, NumberWidensByItsMenu)
-{
-    TSNumberToken token;
-    EXPECT_EQ(token.tokenMenu().join(u' '), QStringLiteral("0 00 000 0000"));
-    EXPECT_EQ(token.showName(), QStringLiteral("1"));
-    for (int item = 3; item >= 0; --item) {
-        token.editCellAction(item);
-        EXPECT_EQ(token.showName(), QString(item, u'0') + u'1');
-    }
-    token.editCellAction(4);
-    token.editCellAction(-1);
-    EXPECT_EQ(token.showName(), QStringLiteral("1"));
-    EXPECT_EQ(m_exampleChanges, 4);
-}
-
 TEST_F(TokenTest, DatesReadAsExamplesAndExpandByIndex)
 {
     const auto expansions = [](TSDateTimeToken &token) {
@@ -86,9 +71,7 @@ TEST_F(TokenTest, DatesReadAsExamplesAndExpandByIndex)
     TSDateModifiedToken modified;
     TSDateShootingToken shot;
     TSTimeShootingToken time;
-    for (TSDateTimeToken *token :
-         {static_cast<TSDateTimeToken *>(&created), static_cast<TSDateTimeToken *>(&modified),
-          static_cast<TSDateTimeToken *>(&shot)})
+    for (TSDateTimeToken *token : std::initializer_list<TSDateTimeToken *>{&created, &modified, &shot})
         EXPECT_EQ(expansions(*token), QStringLiteral("Mar 31, 2024|03 31|03-31-2024|03/31/2024"))
             << token->name().toStdString();
     EXPECT_EQ(expansions(time), QStringLiteral("01:05:09|01 05|01-05-09|01/05/09"));

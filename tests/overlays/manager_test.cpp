@@ -1,4 +1,4 @@
-#include "naming/TSNameToken.h"
+#include "naming/TSPatternParser.h"
 #include "overlays/TSGroup.h"
 #include "overlays/TSImage.h"
 #include "overlays/TSOverlaySynchronisation.h"
@@ -65,12 +65,7 @@ std::shared_ptr<TSOverlay> boxAt(const QRectF &frame, double angle = 0)
 
 TEST_F(ManagerTest, HierarchyChanges)
 {
-    const struct {
-        const char *list;
-        const char *selection;
-        int d;
-        const char *result;
-    } cases[] = {
+    const std::tuple<const char *, const char *, int, const char *> cases[] = {
         {"ABC", "B", -1, "BAC"},
         {"ABC", "B", 1, "ACB"},
         {"ABCD", "AC", 1, "BACD"},
@@ -90,65 +85,6 @@ TEST_F(ManagerTest, HierarchyChanges)
             session.overlays.downOverlay(chosen(selection));
         EXPECT_EQ(order(), result) << list << ' ' << selection << ' ' << d;
     }
-}
-
-TEST_F(ManagerTest, RowsFollowThePhotoList)
-{
-    const auto change = [](TSOverlayManager &manager, char kind, qint64 a, qint64 b) {
-        if (kind == 'j')
-            manager.photoWillJoin(a, b);
-        else if (kind == 'r')
-            manager.photoWasRemoved(a);
-        else
-            manager.photoWasMoved(a, b);
-    };
-    const struct {
-        char kind;
-        qint64 a, b;
-        std::vector<float> rows;
-    } cases[] = {
-        {'j', TSPhotoListObserver::atEnd, 2, {0, 1, 2, 3, 4, 2}},
-        {'j', 0, 2, {2, 0, 1, 2, 3, 4}},
-        {'j', 3, 2, {0, 1, 2, 2, 3, 4}},
-        {'j', 5, -1, {0, 1, 2, 3, 4}},
-        {'r', 0, 0, {1, 2, 3, 4}},
-        {'r', 4, 0, {0, 1, 2, 3}},
-        {'r', 5, 0, {0, 1, 2, 3, 4}},
-        {'m', 0, 3, {1, 2, 0, 3, 4}},
-        {'m', 3, 0, {3, 0, 1, 2, 4}},
-        {'m', 4, 5, {0, 1, 2, 3, 4}},
-        {'m', 1, 5, {0, 2, 3, 4, 1}},
-        {'m', 2, 2, {0, 1, 2, 3, 4}},
-    };
-    for (const auto &[kind, a, b, rows] : cases) {
-        SCOPED_TRACE(testing::Message() << kind << a << ',' << b);
-        session.overlays.removeAllOverlay();
-        const auto text = std::make_shared<TSText>(QStringLiteral("x"));
-        for (int row = 0; row < 5; ++row) {
-            text->setXPixel(row);
-            text->setYPixel(row);
-            text->setAngle(row);
-            text->setWmAlignment(unsigned(row));
-            text->setRatioOfFrameByAlignment(QRectF(row, 0, 1, 1));
-            text->setScriptOrigin(QPointF(row, 0));
-            text->appendRow();
-        }
-        session.overlays.addOverlay(text);
-        change(session.overlays, kind, a, b);
-        EXPECT_EQ(text->xPixelArray, rows);
-        EXPECT_EQ(text->yPixelArray, rows);
-        EXPECT_EQ(text->angleArray, rows);
-        ASSERT_EQ(text->wmAlignmentArray.size(), rows.size());
-        ASSERT_EQ(text->ratioOfFrameByAlignmentArray.size(), rows.size());
-        ASSERT_EQ(text->scriptOriginArray.size(), rows.size());
-        for (size_t row = 0; row < rows.size(); ++row) {
-            EXPECT_EQ(text->wmAlignmentArray[row], unsigned(rows[row]));
-            EXPECT_EQ(text->ratioOfFrameByAlignmentArray[row].x(), double(rows[row]));
-            EXPECT_EQ(text->scriptOriginArray[row].x(), double(rows[row]));
-        }
-    }
-    session.overlays.allPhotosWereRemoved();
-    EXPECT_EQ(session.overlays.overlayCount(), 0);
 }
 
 TEST_F(ManagerTest, GroupEnclosesItsTurnedMembersAndPlacesThem)
@@ -177,9 +113,7 @@ TEST_F(ManagerTest, GroupEnclosesItsTurnedMembersAndPlacesThem)
 TEST_F(ManagerTest, GroupedTextStaysInItsBox)
 {
     const auto text = std::make_shared<TSText>(QStringLiteral("name"));
-    auto token = std::make_shared<TSNameToken>();
-    token->setName(QStringLiteral("NAME"));
-    text->setTextArray({token});
+    text->setTextArray(TSPatternParser::words(u"{NAME}").values);
     text->setFrame({100, 100, 60, 20});
     const auto inner = TSGroup::groupOverlayWithOverlays({text, boxAt({100, 150, 100, 50})});
     const auto group = TSGroup::groupOverlayWithOverlays({inner, boxAt({300, 300, 10, 10})});
@@ -225,32 +159,6 @@ TEST_F(ManagerTest, DissolvedMembersStayWhereTheyAreSeen)
     EXPECT_NEAR(outer->frame().center().x(), outerSeen.x(), 1e-9);
     EXPECT_EQ(outer->frame().size(), QSizeF(20, 10));
     EXPECT_NE(outer->wmAlignment(), 9u);
-}
-
-TEST_F(ManagerTest, RowOfTheShownPhotoIsLoaded)
-{
-    session.addPhotos(2);
-    TSSetBatchControlOverlay(false);
-    const auto overlay = put({10, 20, 100, 50});
-    const auto calculator = put({1, 2, 3, 4});
-    overlay->updateAlignmentAndRatio();
-    overlay->updateOffsetPixel();
-    overlay->appendRow();
-    overlay->appendRow();
-    session.photos.setSelectedPhoto(1);
-    overlay->setFrame({600, 500, 100, 50});
-    m_walks.updateSelectedOverlaysRatioOfFrame({overlay});
-    m_walks.updateSelectedOverlaysOffsetPixel({overlay});
-    for (const unsigned unit : {TSOffsetUnit::Percentage, TSOffsetUnit::Pixel}) {
-        session.data.pUnit = unit;
-        m_walks.updateOverlaysForPhoto(*session.photos.photoAtIndex(0), false);
-        expectRect(overlay->frame(), 10, 20, 100, 50);
-        m_walks.updateOverlaysForPhoto(*session.photos.photoAtIndex(1), false);
-        expectRect(overlay->frame(), 600, 500, 100, 50);
-    }
-    m_walks.updateOverlaysRatioPixelAlignmentAfterPhotoChanged(TSPhoto());
-    EXPECT_EQ(overlay->wmAlignment(), 4u) << "a photo that is not in the list changes nothing";
-    EXPECT_EQ(calculator->wmAlignment(), 9u);
 }
 
 TEST_F(ManagerTest, SelectionMovesToAnAnchorAsOneBlock)

@@ -1,4 +1,4 @@
-#include "naming/TSNameToken.h"
+#include "naming/TSPatternParser.h"
 #include "overlays/TSGroup.h"
 #include "overlays/TSImage.h"
 #include "overlays/TSOverlayClasses.h"
@@ -73,12 +73,10 @@ TEST_F(OverlayArchiveTest, PlaceComesBackNarrowedAndOnTheCanvasOfTheDay)
 
 TEST_F(OverlayArchiveTest, TextComesBackWithItsTokensAndLook)
 {
-    auto token = std::make_shared<TSNameToken>();
-    token->setName("MODEL");
     auto text = std::make_shared<TSText>("x");
     text->updateText("two\nlines");
     text->updateTextFrame();
-    text->setTextArray({"by ", token});
+    text->setTextArray(TSPatternParser::words(u"by {MODEL}").values);
     text->setIsStrokeEnable(true);
     text->setIsShadowEnable(true);
     text->setStrokeWidth(0.1);

@@ -67,13 +67,6 @@ TEST_F(PlacementTest, NearestAnchorAndItsOffset)
     }
 }
 
-TEST_F(PlacementTest, DistancesAreNarrowFloats)
-{
-    EXPECT_EQ(TSOverlay::calculationOfDistanceFromPoint({0, 0}, {-30, 40}), 50.0f);
-    EXPECT_EQ(TSOverlay::calculationOfDistanceFromPoint({16777217, 0}, {0, 0}), 16777216.0f);
-    EXPECT_EQ(TSOverlay::calculationOfDistanceFromPoint({50, 30}, {0, 0}), std::sqrt(3400.0f));
-}
-
 TEST_F(PlacementTest, PinsGoOverTheNearestAnchor)
 {
     const std::array<unsigned, 4> cases[] = {{9, 9, 9, 0}, {3, 9, 9, 3}, {3, 5, 9, 5},

@@ -187,6 +187,38 @@ TEST_F(TextTest, BlurOfAShadowDoesNotGrowWithTheText)
     EXPECT_NEAR(growth[0], growth[1], 3);
 }
 
+TEST_F(TextTest, TilesFillTheCanvasFromItsCornerOn)
+{
+    session.setCanvas(QRectF(10, 20, 350, 150));
+    const auto text = textAt("I", {0, 0}, 40);
+    text->setTextType(TSTextType::Script);
+    text->setTileHeight(60);
+    text->updateRenderTextImage();
+    const QSizeF pitch = text->textSizeOfScript();
+    EXPECT_DOUBLE_EQ(pitch.height(), 30 + 15.625) << "with a gap of 50 on 800 by 800";
+    const auto inkOfTile = [&](int column, int row, const QPointF &shift = {}) {
+        text->setScriptOrigin(shift);
+        const QPointF corner((column + shift.x()) * pitch.width(), (row + shift.y()) * pitch.height());
+        const QRect tile((corner + QPointF(10, 20)).toPoint(), pitch.toSize());
+        return boxWhere(seen(*text).copy(tile), isOver(128));
+    };
+    const QRect ink = inkOfTile(0, 0);
+    const auto plain = textAt("I", {10, 20}, 60 * 150 / 300.0);
+    plain->updateRenderTextImage();
+    EXPECT_EQ(ink, boxWhere(seen(*plain), isOver(128)).translated(-10, -20));
+    for (const QRect &other :
+         {inkOfTile(1, 0), inkOfTile(0, 1), inkOfTile(5, 2), inkOfTile(1, 1, {0.5, 0.25})}) {
+        EXPECT_LE((other.center() - ink.center()).manhattanLength(), 2);
+        EXPECT_LE(std::abs(other.height() - ink.height()), 1);
+    }
+    text->setAngle(1);
+    const QImage turned = seen(*text);
+    const int reach = int(pitch.width() + pitch.height());
+    for (const QPoint &corner :
+         {QPoint(0, 0), QPoint(400 - reach, 0), QPoint(0, 200 - reach), QPoint(400 - reach, 200 - reach)})
+        EXPECT_FALSE(boxWhere(turned.copy(QRect(corner, QSize(reach, reach))), isOver(128)).isEmpty());
+}
+
 TEST_F(TextTest, TilesWithAShadowThatReachesBeyondAllAreDrawnInTime)
 {
     const auto text = textAt("I", {0, 0}, 40);

@@ -55,19 +55,19 @@ TEST_F(WildcardsTest, EveryRowOfTheList)
                                      {"FNumber", 5.6},
                                      {"ISOSpeedRatings", QVariantList{400, 800}},
                                      {"FocalLength", 34.9},
-                                     {"DateTimeOriginal", "2023:12:01 23:04:05"}});
+                                     {"DateTimeOriginal", "2024:03:10 02:30:05"}});
     const std::tuple<TSTokenValue, const char *, const char *> rows[] = {
         {"©", "©", "©"},
         {named("NAME"), "holiday.tar", "{NAME}"},
-        {dated<TSDateCreatedToken>(2), "03-31-2024", "{C_DATE}"},
-        {dated<TSDateModifiedToken>(1), "04 01", "{M_DATE}"},
+        {dated<TSDateCreatedToken>(2), "03-30-2024", "{C_DATE}"},
+        {dated<TSDateModifiedToken>(1), "03 31", "{M_DATE}"},
         {named("COUNTER"), "3", "{COUNTER}"},
         {named("MODEL"), " X-1 ", "{MODEL}"},
         {named("EXPOSURE"), "1 / 250", "{EXPOSURE}"},
         {named("FNUMBER"), "5", "{FNUMBER}"},
         {named("ISO"), "400", "{ISO}"},
-        {dated<TSDateShootingToken>(3), "12/01/2023", "{DATE}"},
-        {dated<TSTimeShootingToken>(3), "23/04/05", "{TIME}"},
+        {dated<TSDateShootingToken>(3), "03/10/2024", "{DATE}"},
+        {dated<TSTimeShootingToken>(3), "02/30/05", "{TIME}"},
         {named("FOCAL"), "34", "{FOCAL}"},
         {named("©"), "©", "{©}"},
     };
@@ -75,8 +75,9 @@ TEST_F(WildcardsTest, EveryRowOfTheList)
         EXPECT_EQ(words(photo, {value}), text);
         EXPECT_EQ(words(photo, {value}, true), name);
     }
-    EXPECT_EQ(words(photo, {dated<TSDateCreatedToken>(0)}), "Mar 31, 2024");
-    EXPECT_EQ(words(photo, {dated<TSTimeShootingToken>(0)}), "23:04:05");
+    EXPECT_EQ(words(photo, {dated<TSDateCreatedToken>(0)}), "Mar 30, 2024");
+    EXPECT_EQ(words(photo, {dated<TSTimeShootingToken>(0)}), "02:30:05")
+        << "an hour that summer time leaves out";
 }
 
 TEST_F(WildcardsTest, ExposureTimes)
@@ -94,7 +95,7 @@ TEST_F(WildcardsTest, ExposureTimes)
 
 TEST_F(WildcardsTest, WhatAPhotoDoesNotTell)
 {
-    const TSPhoto photo;
+    TSPhoto photo;
     for (const char16_t *name : {u"NAME", u"MODEL", u"EXPOSURE", u"ISO"})
         EXPECT_EQ(words(photo, {named(QString::fromUtf16(name))}), "")
             << QString::fromUtf16(name).toStdString();
@@ -104,6 +105,8 @@ TEST_F(WildcardsTest, WhatAPhotoDoesNotTell)
     for (const TSTokenValue &date : {dated<TSDateShootingToken>(1), dated<TSTimeShootingToken>(1),
                                      dated<TSDateCreatedToken>(1), dated<TSDateModifiedToken>(1)})
         EXPECT_EQ(words(photo, {date}), "");
+    photo.path = "/photos/.jpg";
+    EXPECT_EQ(words(photo, {named("NAME")}), ".jpg");
 }
 
 TEST_F(WildcardsTest, ValuesWithoutATextRepeatTheOneBefore)

@@ -1,8 +1,8 @@
 #include "platform/metadata_bytes.h"
+#include "platform/MetadataBlobs.h"
 #include "support/Pictures.h"
 
 #include <gtest/gtest.h>
-#include <random>
 
 using bytes::carried;
 
@@ -74,6 +74,8 @@ TEST(CarriedMetadata, CarriesBlocksInTheirOrderWithExifFirst)
                               bytes::segment(0xED, "unknown") + bytes::segment(0xFE, "comment");
     EXPECT_EQ(inserted(xmp + others + photoshop + exif), exif + xmp + photoshop);
     EXPECT_EQ(inserted(strange), strange);
+    const QByteArray old = bytes::segment(0xED, "Adobe_Photoshop2.5:" + bytes::resource(0x03ED, "old"));
+    EXPECT_EQ(inserted(old), old);
     EXPECT_TRUE(carried(others).isEmpty());
     EXPECT_EQ(carried(others).insertedInto(Photo, mark()), Photo);
     EXPECT_EQ(carried(exif).insertedInto("no JPEG", mark()), "no JPEG");
@@ -237,26 +239,6 @@ TEST(CarriedMetadata, SignsExtendedXmpAnew)
     const QByteArray incomplete = inserted(bytes::xmpExtension(bytes::md5(before), before, 0, 100));
     EXPECT_EQ(incomplete, bytes::xmpExtension(bytes::md5(before), after, 0, 100)) << "parts are missing";
 }
-
-TEST(CarriedMetadata, SurvivesGarbage)
-{
-    bytes::Exif exif{.bigEndian = true, .note = bytes::jpeg({30, 20}), .thumbnail = bytes::jpeg({40, 30})};
-    const QByteArray resources =
-        bytes::resource(0x0404, QByteArray("\x1C\x02\xCA\x80\x04\0\0\0\x09", 9) + "previewed") +
-        bytes::resource(0x040C, QByteArray(28, '\1') + bytes::jpeg({9, 9}));
-    const QByteArray blocks[] = {exif.block(), resources};
-    std::mt19937 random(1);
-    for (int round = 0; round < 1000; ++round) {
-        const QByteArray &whole = blocks[round % 2];
-        QByteArray block = round % 3 ? whole : whole.chopped(random() % 200);
-        const qsizetype reach = std::min<qsizetype>(block.size(), round % 4 < 2 ? block.size() : 1024);
-        for (unsigned change = random() % 20; change > 0; --change)
-            block[qsizetype(random()) % reach] = char(random());
-        const QByteArray segment = round % 2 ? bytes::photoshopSegment(block) : bytes::exifSegment(block);
-        EXPECT_EQ(inserted(segment, round % 8 ? QImage() : mark()).size(), segment.size());
-    }
-}
-
 TEST(CarriedMetadata, BlanksPictureFilesOfOtherFormats)
 {
     const auto box = [](const char *type, const QByteArray &content) {
@@ -297,4 +279,21 @@ TEST(CarriedMetadata, BlanksPicturesOfNestedStructures)
                              bytes::resource(0x040C, QByteArray(28, '\1') + pixels);
     EXPECT_EQ(inserted(bytes::photoshopSegment(block)),
               bytes::photoshopSegment(QByteArray(block).replace(pixels, zeros(90))));
+}
+
+/// Other formats keep a block in one piece.
+TEST(CarriedMetadata, CutsWhatIsTooLongForASegment)
+{
+    const QByteArray photoshop = bytes::resource(0x03ED, QByteArray(150000, 'r'));
+    const QByteArray exif =
+        bytes::Exif{.note = QByteArray(70000, 'n'), .thumbnail = bytes::jpeg({8, 6})}.block();
+    const auto metadata = platform::CarriedMetadata::ofBlobs({exif, {}, photoshop});
+    const auto file = platform::JpegFile::fromBytes(metadata.insertedInto(Photo, mark()));
+    EXPECT_EQ(file->size(), QSize(64, 48));
+    const auto back = platform::CarriedMetadata::ofJpeg(*file);
+    EXPECT_EQ(back.photoshopResources(), photoshop);
+    const auto fields = platform::TiffStructure::read(back.exif());
+    ASSERT_TRUE(fields);
+    EXPECT_EQ(fields->number(fields->chain().front(), 0x0112), 6u);
+    EXPECT_FALSE(back.exif().contains("nnnn"));
 }

@@ -74,7 +74,7 @@ TEST(JpegFile, TellsWhatStandsBehindTheFirstPicture)
         {"padding", first + QByteArray(1000, '\0'), {}},
         {"one more", first + second, {0, 1, false, false}},
         {"two more behind padding", first + QByteArray(99, '\0') + nested + second, {0, 2, false, false}},
-        {"the start of one alone", first + second.first(20), {}},
+        {"the start of one, and a whole one", first + "-" + second.first(10) + second, {0, 1, false, false}},
         {"a declared preview", indexed + second, {1, 0, false, false}},
         {"a declared preview and one more", indexed + second + second, {1, 1, false, false}},
         {"a gain map", first + gainMap, {0, 1, true, false}},
@@ -96,6 +96,6 @@ TEST(JpegFile, FindsTheEndOfPicturesLargerThanAWindow)
             << length;
         EXPECT_EQ(JpegFile::fromBytes(structure(data).chopped(2))->remainder(), JpegRemainder()) << length;
     }
-    const QByteArray stuffed = QByteArray("x\xFF\0\xFF\xD0", 5).repeated(window);
+    const QByteArray stuffed = QByteArray("x\xFF\0\xFF\xD0\xFF\xD7", 7).repeated(window);
     EXPECT_EQ(JpegFile::fromBytes(structure(stuffed))->remainder(), JpegRemainder());
 }

@@ -370,21 +370,6 @@ TEST(KeyedArchive, TakesNothingFromHostileBytes)
         EXPECT_FALSE(platform::unarchive(bytes, kClasses)) << name;
 }
 
-TEST(KeyedArchive, EndsWithAnyCutOrChangedArchive)
-{
-    TextAttributes look;
-    look.font = FontDescription();
-    look.foregroundColor = Color::white();
-    const QByteArray sound = platform::archiveRootObject(ArchiveValue::Array{
-        AttributedString::fromRuns("ab", {{1, look}, {1, {}}}), std::make_shared<Shape>()});
-    for (qsizetype i = 0; i < sound.size(); ++i) {
-        EXPECT_FALSE(platform::unarchive(sound.left(i), kClasses)) << "cut at " << i;
-        for (const char flip : {'\x01', '\x10', '\x80', '\xff'})
-            platform::unarchive(QByteArray(sound).replace(i, 1, QByteArray(1, char(sound[i] ^ flip))),
-                                kClasses);
-    }
-}
-
 TEST(KeyedArchive, LooksAtAFilesSizeFirst)
 {
     QTemporaryFile file;

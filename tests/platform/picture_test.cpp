@@ -42,20 +42,17 @@ const QByteArray blueQuarter = "<rect x='100' y='50' width='100' height='50' fil
 
 TEST_F(PictureTest, TakesTheNaturalSizeFromTheDrawing)
 {
-    const struct {
-        const char *attributes;
-        QSizeF size;
-    } cases[] = {
+    const std::pair<const char *, QSizeF> cases[] = {
         {"width='200' height='100'", {200, 100}},
         {"width='2in' height='36pt'", {144, 36}},
         {"viewBox='5 5 200 100'", {200, 100}},
         {"viewBox='0 0 20 10' width='100%' height='100%'", {20, 10}},
         {"", {200, 100}},
     };
-    for (const auto &row : cases) {
-        const auto picture = load(svg(row.attributes, blueQuarter));
-        ASSERT_TRUE(picture) << row.attributes;
-        EXPECT_EQ(picture->size(), row.size) << row.attributes;
+    for (const auto &[attributes, size] : cases) {
+        const auto picture = load(svg(attributes, blueQuarter));
+        ASSERT_TRUE(picture) << attributes;
+        EXPECT_EQ(picture->size(), size) << attributes;
     }
 }
 
@@ -65,24 +62,21 @@ TEST_F(PictureTest, DrawsShapesSharpAtEverySize)
                                              "0 0 1 setrgbcolor 100 0 100 50 rectfill\nshowpage\n");
     const QString drawn = write("drawing.svg", svg("width='200' height='100'", blueQuarter));
     // Pages that keep their shape are reduced along one axis, and PostScript is drawn only once.
-    const struct {
-        QString file;
-        int softness;
-    } cases[] = {{drawn, 0}, {writePdf(), 3}, {eps, 3}};
-    for (const auto &row : cases) {
-        const auto picture = Picture::load(row.file);
-        ASSERT_TRUE(picture) << row.file.toStdString();
+    const std::pair<QString, int> cases[] = {{drawn, 0}, {writePdf(), 3}, {eps, 3}};
+    for (const auto &[file, softness] : cases) {
+        const auto picture = Picture::load(file);
+        ASSERT_TRUE(picture) << file.toStdString();
         EXPECT_EQ(picture->size().width(), 2 * picture->size().height());
         for (const QSize &size : {QSize(1000, 500), QSize(600, 900), QSize(20, 400), QSize(1900, 8)}) {
             const QImage image = picture->imageOfSize(size);
             ASSERT_EQ(image.size(), size);
             EXPECT_EQ(image.format(), QImage::Format_ARGB32_Premultiplied);
-            const QPoint inside = QPoint(size.width(), size.height()) / 2 + QPoint(1, 1) * row.softness;
-            const QPoint outside = inside - QPoint(1, 1) * (2 * row.softness + 1);
-            EXPECT_EQ(image.pixel(inside), qRgb(0, 0, 255)) << row.file.toStdString();
+            const QPoint inside = QPoint(size.width(), size.height()) / 2 + QPoint(1, 1) * softness;
+            const QPoint outside = inside - QPoint(1, 1) * (2 * softness + 1);
+            EXPECT_EQ(image.pixel(inside), qRgb(0, 0, 255)) << file.toStdString();
             EXPECT_EQ(image.pixel(size.width() - 1, size.height() - 1), qRgb(0, 0, 255));
-            EXPECT_EQ(image.pixel(outside.x(), size.height() - 1), 0U) << row.file.toStdString();
-            EXPECT_EQ(image.pixel(size.width() - 1, outside.y()), 0U) << row.file.toStdString();
+            EXPECT_EQ(image.pixel(outside.x(), size.height() - 1), 0U) << file.toStdString();
+            EXPECT_EQ(image.pixel(size.width() - 1, outside.y()), 0U) << file.toStdString();
         }
     }
 }

@@ -13,22 +13,17 @@ TEST(ThumbnailCache, AnswersWhatIsAsNewAsTheFileAndLargeEnough)
 {
     const Folder folder;
     const QString photo = folder.write("a photo.jpg", "pixels");
-    const QByteArray address = "file://" + photo.toUtf8().replace(" ", "%20");
+    const QByteArray address = "file://" + photo.toUtf8().toPercentEncoding("/");
     const QString name =
         QString::fromLatin1(QCryptographicHash::hash(address, QCryptographicHash::Md5).toHex());
     const QString cache =
         QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + "/thumbnails/";
     const qint64 changed = QFileInfo(photo).lastModified().toSecsSinceEpoch();
-    const struct {
-        const char *size;
-        qint64 time;
-        int asked;
-        int found;
-    } cases[] = {{"normal", changed, 100, 90},
-                 {"normal", changed, 200, 0},
-                 {"large", changed, 200, 90},
-                 {"large", changed - 1, 200, 0},
-                 {"x-large", changed, 300, 90}};
+    const std::tuple<const char *, qint64, int, int> cases[] = {{"normal", changed, 100, 90},
+                                                                {"normal", changed, 200, 0},
+                                                                {"large", changed, 200, 90},
+                                                                {"large", changed - 1, 200, 0},
+                                                                {"x-large", changed, 300, 90}};
     for (const auto &[size, time, asked, found] : cases) {
         const QString path = cache + QLatin1String(size);
         ASSERT_TRUE(QDir().mkpath(path));

@@ -113,7 +113,9 @@ TEST(TiffMetadata, WritesXmpAndIptcAsReadersExpectThem)
     const QByteArray photoshop =
         bytes::photoshopSegment(bytes::resource(0x03ED, "first") + bytes::resource(0x0404, caption));
     const QByteArray plain = tiff();
-    const auto image = opened(written(plain, carried(main + extended + photoshop)));
+    const QByteArray file = written(plain, carried(main + extended + photoshop));
+    EXPECT_EQ(field(file, "iptc-data"), caption.leftJustified(12, '\0'));
+    const auto image = opened(file);
     EXPECT_EQ(image->xmpData()["Xmp.xmp.Rating"].toString(), "4");
     EXPECT_EQ(image->xmpData()["Xmp.xmp.Label"].toString(), "red");
     EXPECT_EQ(image->xmpData().findKey(Exiv2::XmpKey("Xmp.xmpNote.HasExtendedXMP")), image->xmpData().end());

@@ -12,12 +12,7 @@ protected:
 /// The canvas is 1000 by 800 points at (0, 0), half a point a pixel.
 TEST_F(OffsetTest, ArrowsTakeAStepInTheUnitOfTheSession)
 {
-    const struct {
-        unsigned unit;
-        QRectF frame;
-        int key;
-        QPointF corner;
-    } cases[] = {
+    const std::tuple<unsigned, QRectF, int, QPointF> cases[] = {
         // From the bottom right, a quarter of a percent of 1000 or 800 points.
         {TSOffsetUnit::Percentage, {880, 740, 100, 40}, Qt::Key_Left, {877.5, 740}},
         {TSOffsetUnit::Percentage, {880, 740, 100, 40}, Qt::Key_Right, {882.5, 740}},
@@ -32,16 +27,16 @@ TEST_F(OffsetTest, ArrowsTakeAStepInTheUnitOfTheSession)
         {TSOffsetUnit::Pixel, {10, 20, 100, 40}, Qt::Key_Up, {10, 19.5}},
         {TSOffsetUnit::Percentage, {880, 740, 100, 40}, Qt::Key_A, {880, 740}},
     };
-    for (const auto &each : cases) {
+    for (const auto &[unit, frame, key, corner] : cases) {
         session.overlays.removeAllOverlay();
         session.setCanvas({0, 0, 1000, 800}, 0.5);
-        session.data.pUnit = each.unit;
-        const auto overlay = put('A', each.frame);
+        session.data.pUnit = unit;
+        const auto overlay = put('A', frame);
         overlay->updateAlignmentAndRatio();
         preview.selection().selectOverlay(overlay);
-        pressKey(each.key);
-        expectNear(overlay->frame().topLeft(), each.corner, 1e-4);
-        EXPECT_EQ(overlay->frame().size(), each.frame.size());
+        pressKey(key);
+        expectNear(overlay->frame().topLeft(), corner, 1e-4);
+        EXPECT_EQ(overlay->frame().size(), frame.size());
     }
 }
 

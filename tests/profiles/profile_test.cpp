@@ -50,30 +50,12 @@ protected:
         return add(text, frame);
     }
     QString package(const QString &name) const { return TSProfileLibrary::userPackage(name); }
-    QStringList filesOf(const QString &folder) const
-    {
-        return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    }
     QColor pixelOf(const QString &path) const
     {
         const auto picture = platform::Picture::load(path);
         return picture ? picture->imageOfSize(picture->size().toSize()).pixelColor(1, 1) : QColor();
     }
 };
-
-QImage plain(const QSize &size, const QColor &color)
-{
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(color);
-    return image;
-}
-
-void writeOver(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
 
 struct Asked : TSProfileApplierDelegate {
     Answer answer;
@@ -95,7 +77,7 @@ struct Asked : TSProfileApplierDelegate {
 
 TEST_F(ProfileTest, APackageHoldsArchivePictureAndTheUsersPictures)
 {
-    const QString logo = session.writePng("logo.png", plain({40, 20}, {0, 200, 0, 128}));
+    const QString logo = session.writePng("logo.png", plainImage({40, 20}, {0, 200, 0, 128}));
     const auto first = addPicture(logo), second = addPicture(logo);
     const auto member = std::make_shared<TSImage>(logo);
     member->setIsFromFinder(true);
@@ -106,15 +88,15 @@ TEST_F(ProfileTest, APackageHoldsArchivePictureAndTheUsersPictures)
     EXPECT_EQ(TSProfileSaver::saveProfile("Two logos"), "");
 
     const QString saved = package("Two logos");
-    EXPECT_EQ(filesOf(saved), (QStringList{"Stickers", "Two logos.jpg", "info.xml"}));
-    EXPECT_EQ(filesOf(saved + "/Stickers"), (QStringList{"Stickers_0.png", "Stickers_1.png"}));
+    EXPECT_EQ(filesIn(saved), (QStringList{"Stickers", "Two logos.jpg", "info.xml"}));
+    EXPECT_EQ(filesIn(saved + "/Stickers"), (QStringList{"Stickers_0.png", "Stickers_1.png"}));
     EXPECT_EQ(QImage(saved + "/Two logos.jpg").size(), QSize(400, 300));
     EXPECT_TRUE(bytesOf(saved + "/Stickers/Stickers_0.png").startsWith(QByteArray("II*\0", 4)));
     EXPECT_EQ(pixelOf(saved + "/Stickers/Stickers_1.png"), pixelOf(logo));
     EXPECT_EQ(second->imageName(), saved + "/Stickers/Stickers_0.png");
     EXPECT_EQ(first->imageName(), saved + "/Stickers/Stickers_1.png");
     EXPECT_EQ(member->imageName(), "as it was");
-    EXPECT_EQ(filesOf(TSProfileLibrary::userFolder()), QStringList{"Two logos.tspf"});
+    EXPECT_EQ(filesIn(TSProfileLibrary::userFolder()), QStringList{"Two logos.tspf"});
     const auto root = platform::unarchiveFile(saved + "/info.xml", {});
     ASSERT_TRUE(root);
 }
@@ -143,7 +125,7 @@ TEST_F(ProfileTest, ThePictureShowsTheNamesOfWildcards)
 
 TEST_F(ProfileTest, ALayoutKeepsItsPlaceOnAnotherCanvasAndInAnotherFolder)
 {
-    addPicture(session.writePng("logo.png", plain({40, 20}, Qt::red)), {700, 10, 80, 40});
+    addPicture(session.writePng("logo.png", plainImage({40, 20}, Qt::red)), {700, 10, 80, 40});
     const auto tiles = std::make_shared<TSText>("PROOF");
     tiles->setTextType(TSTextType::Script);
     session.overlays.insertOverlay(tiles, 1);
@@ -180,8 +162,8 @@ TEST_F(ProfileTest, ALayoutKeepsItsPlaceOnAnotherCanvasAndInAnotherFolder)
 /// The pictures of the marks lie in the very package that is replaced, under names that change hands.
 TEST_F(ProfileTest, SavingOverAPackageKeepsItsPictures)
 {
-    addPicture(session.writePng("red.png", plain({8, 8}, Qt::red)));
-    addPicture(session.writePng("blue.png", plain({8, 8}, Qt::blue)));
+    addPicture(session.writePng("red.png", plainImage({8, 8}, Qt::red)));
+    addPicture(session.writePng("blue.png", plainImage({8, 8}, Qt::blue)));
     ASSERT_EQ(TSProfileSaver::saveProfile("Pair"), "");
     ASSERT_TRUE(TSProfileApplier().applyProfile(package("Pair")));
     session.overlays.upOverlay({session.overlays.overlayAtIndex(1)});
@@ -189,7 +171,7 @@ TEST_F(ProfileTest, SavingOverAPackageKeepsItsPictures)
     EXPECT_EQ(pixelOf(package("Pair") + "/Stickers/Stickers_0.png"), QColor(Qt::red));
     EXPECT_EQ(pixelOf(package("Pair") + "/Stickers/Stickers_1.png"), QColor(Qt::blue));
     EXPECT_EQ(pixelOf(session.overlays.images()[0]->imagePath()), QColor(Qt::red));
-    EXPECT_EQ(filesOf(TSProfileLibrary::userFolder()), QStringList{"Pair.tspf"});
+    EXPECT_EQ(filesIn(TSProfileLibrary::userFolder()), QStringList{"Pair.tspf"});
 }
 
 TEST_F(ProfileTest, WhatCannotBeSavedLeavesNothing)
@@ -198,14 +180,14 @@ TEST_F(ProfileTest, WhatCannotBeSavedLeavesNothing)
     for (const char *name : {"", "  ", "a/b", ".hidden", "../up"})
         EXPECT_NE(TSProfileSaver::saveProfile(name), "") << name;
     EXPECT_NE(TSProfileSaver::saveProfile(QString(300, u'n')), "");
-    EXPECT_EQ(filesOf(TSProfileLibrary::userFolder()), QStringList());
+    EXPECT_EQ(filesIn(TSProfileLibrary::userFolder()), QStringList());
 
     ASSERT_EQ(TSProfileSaver::saveProfile("Kept"), "");
     const QByteArray archive = bytesOf(package("Kept") + "/info.xml");
     session.photos.setSelectedPhoto(-1);
     EXPECT_NE(TSProfileSaver::saveProfile("Kept"), "");
     EXPECT_EQ(bytesOf(package("Kept") + "/info.xml"), archive);
-    EXPECT_EQ(filesOf(TSProfileLibrary::userFolder()), QStringList{"Kept.tspf"});
+    EXPECT_EQ(filesIn(TSProfileLibrary::userFolder()), QStringList{"Kept.tspf"});
 
     session.photos.setSelectedPhoto(0);
     QDir(session.path("home")).removeRecursively();
@@ -218,31 +200,25 @@ TEST_F(ProfileTest, ApplyingAsksOnceUnlessToldNotTo)
     addWildcard("EXIF_MODEL");
     ASSERT_EQ(TSProfileSaver::saveProfile("Model"), "");
     const QString tip = "ShowApplyProfileTip";
-    struct Case {
-        bool isTipOn, hasMarks;
-        TSProfileApplierDelegate::Answer answer;
-        QStringList told;
-        bool isTipLeft;
-        qint64 marks;
-    };
     const QStringList applied = {"cleared", "applied"};
-    const Case cases[] = {{true, true, {true, false}, QStringList{"asked"} + applied, true, 1},
-                          {true, true, {true, true}, QStringList{"asked"} + applied, false, 1},
-                          {true, true, {false, false}, {"asked"}, true, 2},
-                          {true, true, {false, true}, {"asked"}, false, 2},
-                          {false, true, {false, false}, applied, false, 1},
-                          {true, false, {false, false}, applied, true, 1}};
-    for (const Case &each : cases) {
-        session.defaults->setBool(tip, each.isTipOn);
+    const std::tuple<bool, bool, TSProfileApplierDelegate::Answer, QStringList, bool, qint64> cases[] = {
+        {true, true, {true, false}, QStringList{"asked"} + applied, true, 1},
+        {true, true, {true, true}, QStringList{"asked"} + applied, false, 1},
+        {true, true, {false, false}, {"asked"}, true, 2},
+        {true, true, {false, true}, {"asked"}, false, 2},
+        {false, true, {false, false}, applied, false, 1},
+        {true, false, {false, false}, applied, true, 1}};
+    for (const auto &[isTipOn, hasMarks, answer, told, isTipLeft, marks] : cases) {
+        session.defaults->setBool(tip, isTipOn);
         session.overlays.removeAllOverlay();
-        for (int i = 0; each.hasMarks && i < 2; ++i)
+        for (int i = 0; hasMarks && i < 2; ++i)
             addWildcard("FILE_NAME");
         Asked asked;
-        asked.answer = each.answer;
+        asked.answer = answer;
         TSProfileApplier(&asked).applyProfile(package("Model"));
-        EXPECT_EQ(asked.told, each.told);
-        EXPECT_EQ(session.defaults->boolForKey(tip), each.isTipLeft);
-        EXPECT_EQ(session.overlays.overlayCount(), each.marks);
+        EXPECT_EQ(asked.told, told);
+        EXPECT_EQ(session.defaults->boolForKey(tip), isTipLeft);
+        EXPECT_EQ(session.overlays.overlayCount(), marks);
     }
 }
 
@@ -254,7 +230,9 @@ TEST_F(ProfileTest, WhatIsNoArchiveAddsNothing)
     const QString archive = package("Whole") + "/info.xml";
     for (const QByteArray &bytes : {QByteArray(), QByteArray("bplist00"), whole.first(whole.size() / 2),
                                     platform::archiveRootObject(QString("no dictionary"))}) {
-        writeOver(archive, bytes);
+        QFile file(archive);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        file.close();
         session.overlays.removeAllOverlay();
         EXPECT_FALSE(TSProfileApplier().applyProfile(package("Whole")));
         EXPECT_EQ(session.overlays.overlayCount(), 0);

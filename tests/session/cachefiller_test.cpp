@@ -55,14 +55,14 @@ TEST_F(CacheFillerTest, NeighboursAreFilledAndFarOnesLetGo)
         TSCacheFiller filler;
         session.photos.setSelectedPhoto(0);
         filler.cacheImages();
-        EXPECT_TRUE(QTest::qWaitFor([this] { return cached() == range(1, 99); }, 10000));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return cached() == range(1, 99); }, 120000));
         // What lies 100 below goes. A lower neighbour that is there already ends its round, so that above
         // only as many are filled as were missing below.
         session.photos.setSelectedPhoto(120);
         filler.cacheImages();
         std::set<qint64> expected = range(20, 119);
         expected.merge(range(121, 140));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return cached() == expected; }, 10000));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return cached() == expected; }, 120000));
     }
     EXPECT_TRUE(session.data.isSelectedPhotoChanged);
 }
@@ -76,7 +76,7 @@ TEST_F(CacheFillerTest, FramesKeepTheirPictures)
     TSCacheFiller filler;
     session.photos.setSelectedPhoto(0);
     filler.cacheImages();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return cached() == range(1, 99); }, 10000));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return cached() == range(1, 99); }, 120000));
     session.photos.setSelectedPhoto(209);
     filler.cacheImages();
     for (qint64 i = 0; i < 210; ++i)

@@ -3,6 +3,7 @@
 #include "support/Session.h"
 
 #include <QDeadlineTimer>
+#include <QEventLoop>
 
 namespace {
 
@@ -27,7 +28,7 @@ protected:
     /// Serves the main thread until the views have noted a line so many times.
     void serveUntil(const QString &line, int times = 1)
     {
-        QDeadlineTimer deadline(20000);
+        QDeadlineTimer deadline(120000);
         while (m_views.log.count(line) < times && !deadline.hasExpired())
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
         EXPECT_EQ(m_views.log.count(line), times) << m_views.log.join(u'|').toStdString();
@@ -42,11 +43,8 @@ protected:
 TEST_F(IntakeControllerTest, TheFrameOfAnIntake)
 {
     const QString words = session.write(QStringLiteral("words.txt"), "words");
-    const struct {
-        QStringList paths;
-        qint64 insertAt; // −1 appends
-        const char *log;
-    } cases[] = {
+    // Of a place, −1 appends.
+    const std::tuple<QStringList, qint64, const char *> cases[] = {
         {{words}, -1, "sheet Loading... true|refused words.txt|no sheet|no filling"},
         {{photo(0), photo(1)},
          -1,
@@ -121,8 +119,9 @@ TEST_F(IntakeControllerTest, LeavingWaitsForTheFileAtHand)
         TSPhotoIntakeController leaving(&session.overlays, views, views);
         leaving.addPhotosFromDragging(urls(paths));
         leaving.addPhotosFromDragging(urls({photo(99)}));
-        while (views.log.size() < 3)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        QEventLoop loop;
+        views.onTitle = [&loop](const QString &) { loop.quit(); };
+        loop.exec();
         views.takeLog();
     }
     EXPECT_TRUE(views.log.isEmpty());

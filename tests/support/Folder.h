@@ -3,6 +3,7 @@
 #include "platform/Vips.h"
 
 #include <gtest/gtest.h>
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -26,6 +27,12 @@ public:
         return path(name);
     }
 };
+
+/// The names of all that lies in a folder, sorted.
+inline QStringList filesIn(const QString &folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+}
 
 inline QByteArray bytesOf(const QString &path)
 {

@@ -37,6 +37,20 @@ public:
         }
     }
 
+    /// The first letters of the photos' names in the order of the list; photos, items and indexes must agree.
+    std::string order() const
+    {
+        std::string names;
+        const auto list = photos.photos();
+        for (size_t i = 0; i < list.size(); ++i) {
+            EXPECT_EQ(list[i]->index, qint64(i));
+            EXPECT_EQ(data.itemAtIndex(qint64(i))->path, list[i]->path);
+            names += list[i]->path.section(u'/', -1).at(0).toLatin1();
+        }
+        EXPECT_EQ(data.photoCount(), qint64(list.size()));
+        return names;
+    }
+
     /// A canvas at its usual place in the tests: points, and points a photo pixel.
     void setCanvas(const QRectF &canvas, double pointsPerPixel = 1)
     {

@@ -15,9 +15,10 @@ using TestApplication = QGuiApplication;
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Dates and months in the tests are those of one language and zone, whatever the machine speaks.
+    // Dates and months in the tests are those of one language and zone, whatever the machine speaks; a zone
+    // in which the day often is another than in UTC.
     qputenv("LC_ALL", "C.UTF-8");
-    qputenv("TZ", "UTC");
+    qputenv("TZ", "America/St_Johns");
     // What a test writes as the user's own is gone with it.
     const QTemporaryDir home;
     for (const char *folder : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"})

@@ -158,6 +158,8 @@ TEST_F(FormatWindowTest, FormatsOtherThanJpgKeepTheQualityAndLockIt)
         child<QComboBox>("pubFormat")->setCurrentText(QString::fromLatin1(extension).toUpper());
         EXPECT_EQ(session.data.exportFormat, extension);
         EXPECT_EQ(session.data.type, type);
+        EXPECT_EQ(session.defaults->integerForKey("ExportFormat"),
+                  child<QComboBox>("pubFormat")->currentIndex());
         for (const char *part : {"slQuality", "tfQuality", "stQuality", "lbQuality"})
             EXPECT_EQ(child<QWidget>(part)->isEnabled(), isEnabled) << extension << part;
         EXPECT_DOUBLE_EQ(session.data.quality, 0.86);

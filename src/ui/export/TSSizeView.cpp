@@ -60,7 +60,7 @@ void TSSizeView::addRow(QWidget *view, TSSizeField field, const char *name)
     row->addStretch();
     static_cast<QVBoxLayout *>(view->layout())->addLayout(row);
     connect(trio->field(), &TSNumberField::valueEdited, this,
-            [this, field](int value) { m_settings.sizeTyped(field, QString::number(value)); });
+            [this, field](int value) { m_settings.sizeTyped(field, value); });
     connect(trio->stepper(), &TSStepper::valueChanged, this,
             [this, field](int value) { m_settings.sizeChanged(field, value); });
     connect(trio, &TSValueTrio::editingFinished, this, [this] { m_settings.sizeDidEndEditing(); });
