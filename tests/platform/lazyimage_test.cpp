@@ -220,13 +220,19 @@ TEST_F(LazyImageTest, BitmapsThatBreakOffAreNoPictures)
 
 TEST_F(LazyImageTest, TheCameraTellsOfAdobeRGBWhereNoProfileDoes)
 {
+    const struct {
+        const char *rules;
+        const char *colorSpace;
+        bool isAdobe;
+    } cases[] = {{"R03", "65535", true}, {"R98", "65535", false}, {"R03", "1", false}};
     // By the matrices and curves of Adobe RGB and sRGB.
+    const QColor plainly(100, 150, 50);
     const QColor moved(66, 151, 34);
     const platform::VipsImagePtr image = flat({100, 150, 50}, VIPS_FORMAT_UCHAR, VIPS_INTERPRETATION_sRGB);
-    for (const char *rules : {"R03", "R98"}) {
+    for (const auto &[rules, colorSpace, isAdobe] : cases) {
         vips_image_set_string(image.get(), "exif-ifd4-InteroperabilityIndex", rules);
+        vips_image_set_string(image.get(), "exif-ifd2-ColorSpace", colorSpace);
         const LazyImage opened = LazyImage::open(writePixels("camera.jpg", image.get()), {});
-        expectColor(opened.inSRGB().toImage().pixelColor(8, 8),
-                    rules == std::string("R03") ? moved : QColor(100, 150, 50), 2);
+        expectColor(opened.inSRGB().toImage().pixelColor(8, 8), isAdobe ? moved : plainly, 2);
     }
 }
