@@ -99,6 +99,8 @@ TSBatchCommand::TSBatchCommand(const TSBatchOptions &options, TSBatchReporter &r
     : m_options(options), m_reporter(reporter), m_run(*this)
 {
     m_run.isDryRun = options.isDryRun;
+    m_run.isStrict = options.isStrict;
+    m_run.jobs = options.jobs;
     // There is nobody to ask, and few mean it.
     m_run.largestOutput = TSExportRun::biggestWithoutAsking;
     // A photo that could not be taken in is an original all the same.

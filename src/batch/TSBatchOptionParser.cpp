@@ -239,6 +239,15 @@ Problem setName(Parse &parse, const QString &value)
     return std::nullopt;
 }
 
+Problem setJobs(Parse &parse, const QString &value)
+{
+    const auto jobs = TSBatchValues::wholeNumber(value, 1, 64);
+    if (!jobs)
+        return notOne(value, "a whole number from 1 to 64");
+    parse.options.jobs = *jobs;
+    return std::nullopt;
+}
+
 Problem setSavedProfile(Parse &parse, const QString &value)
 {
     const QString problem = TSProfileLibrary::problemWithName(value);
@@ -268,7 +277,7 @@ Problem setFlag(Parse &parse, const QString &)
     return std::nullopt;
 }
 
-constexpr std::array<Option, 28> table = {
+constexpr std::array<Option, 30> table = {
     {{"text", "STRING",
       "a text; {NAME} {COUNTER} {MODEL} {EXPOSURE} {FNUMBER} {ISO} {FOCAL} {C_DATE} {M_DATE} {DATE} {TIME} "
       "are "
@@ -304,6 +313,9 @@ constexpr std::array<Option, 28> table = {
       "its name ({Name}); also {Name:lower} {Name:UPPER} {Number:001} {Created:MM-dd-yyyy} {Modified}",
       setName},
      {"conflict", "rename|replace|stop", "what to do when a name is taken (rename)", setConflict},
+     {"jobs", "N", "how many photos to work on at once (as many as there are processors)", setJobs},
+     {"strict", "", "do not write a photo on which no mark shows, and count it as failed",
+      setFlag<&TSBatchOptions::isStrict>},
      {"save-profile", "NAME", "save the marks as a profile; without --output that is all that is done",
       setSavedProfile},
      {"list-profiles", "", "show the profiles there are", setFlag<&TSBatchOptions::wantsProfiles>},

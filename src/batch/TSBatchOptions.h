@@ -81,6 +81,9 @@ struct TSBatchOptions {
 
     bool isJson = false;
     bool isDryRun = false;
+    bool isStrict = false;
+    /// Photos that stream at once; 0 for as many as there are processors.
+    int jobs = 0;
     bool wantsProfiles = false;
     bool wantsHelp = false;
     bool wantsVersion = false;

@@ -72,9 +72,9 @@ void TSBatchReporter::photo(const QString &source, const TSExportOutcome &outcom
     if (outcome.status != Status::Written && !isPlanned) {
         ++m_unwritten;
         warning(QStringLiteral("%1: %2: %3").arg(source, nameOf(outcome.status), outcome.reason));
-    } else if (!outcome.note.isEmpty()) {
-        warning(QStringLiteral("%1: %2").arg(source, outcome.note));
     }
+    for (const QString &text : outcome.warnings)
+        warning(QStringLiteral("%1: %2").arg(source, text));
     if (m_form == Form::Json)
         jsonLine(source, outcome, marks);
     else if (m_form == Form::Terminal)
@@ -117,8 +117,7 @@ void TSBatchReporter::jsonLine(const QString &source, const TSExportOutcome &out
     line.put("status", nameOf(outcome.status)).put("reason", outcome.reason);
     line.put("width", qint64(outcome.size.width())).put("height", qint64(outcome.size.height()));
     line.put("ms", outcome.milliseconds);
-    if (!outcome.note.isEmpty())
-        line.put("note", outcome.note);
+    line.put("warnings", outcome.warnings);
     if (marks) {
         QStringList list;
         for (const TSMarkPlacement &mark : *marks)

@@ -9,6 +9,12 @@ TSJsonLine &TSJsonLine::put(const char *name, const QString &text)
     return putRaw(name, QString::fromUtf8(list.mid(1, list.size() - 2)));
 }
 
+TSJsonLine &TSJsonLine::put(const char *name, const QStringList &texts)
+{
+    const QByteArray list = QJsonDocument(QJsonArray::fromStringList(texts)).toJson(QJsonDocument::Compact);
+    return putRaw(name, QString::fromUtf8(list));
+}
+
 TSJsonLine &TSJsonLine::put(const char *name, qint64 number)
 {
     return putRaw(name, QString::number(number));

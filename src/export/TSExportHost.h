@@ -2,6 +2,7 @@
 
 #include <QSize>
 #include <QString>
+#include <QStringList>
 
 /// What became of one photo of a run.
 struct TSExportOutcome {
@@ -12,8 +13,10 @@ struct TSExportOutcome {
     QSize size{0, 0};
     /// Why it was not written, or empty.
     QString reason;
-    /// What of a written photo did not go along, or empty.
-    QString note;
+    /// What the user should know of a photo all the same: what did not go along, which marks do not show.
+    QStringList warnings;
+    /// There are marks, and nothing of them shows on this photo.
+    bool isUnmarked = false;
     qint64 milliseconds = 0;
 };
 

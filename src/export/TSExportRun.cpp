@@ -1,105 +1,87 @@
 #include "export/TSExportRun.h"
 
-#include "session/TSDataManager.h"
 #include "session/TSFileUtility.h"
-#include "session/TSPhotoManager.h"
 #include "session/TSQuartzUtility.h"
 
 #include <QThread>
+#include <unistd.h>
 
 using Status = TSExportOutcome::Status;
 
 namespace {
-
-QSizeF outputSize(const TSPhoto &photo)
-{
-    const TSDataManager *data = TSDataManager::dataManager();
-    const double w = photo.photoSize.width();
-    const double h = photo.photoSize.height();
-    switch (data->resizeWay) {
-    case TSResizeWay::ByWidth:
-        return {data->outputWidth, data->outputWidth * h / w};
-    case TSResizeWay::ByHeight:
-        return {data->outputHeight * w / h, data->outputHeight};
-    case TSResizeWay::ByPercentage:
-        return {w * data->percentage / 100, h * data->percentage / 100};
-    case TSResizeWay::FitSize:
-        return TSAspectFitRect(QRectF(0, 0, w, h), QRectF(0, 0, data->outputWidth, data->outputHeight))
-            .size();
-    default:
-        return {w, h};
-    }
-}
 
 QString wholeSize(const QSizeF &size)
 {
     return QStringLiteral("%1 × %2").arg(size.width(), 0, 'f', 0).arg(size.height(), 0, 'f', 0);
 }
 
-} // namespace
-
-TSExportRun::TSExportRun(TSExportHost &host) : m_host(host)
+/// In bytes.
+double halfOfMemory()
 {
-    m_writer.isCancelled = [this] {
-        // The run comes by here while a photo streams, and nowhere else for as long.
-        settleIfWritten();
-        return isCancelled || TSDataManager::dataManager()->isExitExport;
-    };
+    return 0.5 * double(sysconf(_SC_PHYS_PAGES)) * double(sysconf(_SC_PAGESIZE));
 }
 
-void TSExportRun::savePhotos(const QString &folder)
+} // namespace
+
+TSExportRun::TSExportRun(TSExportHost &host)
+    : m_host(host), m_pending([this](qint64 index, bool isNamed, const TSExportOutcome &outcome) {
+        tell(index, isNamed, outcome);
+    })
 {
-    TSDataManager *data = TSDataManager::dataManager();
+    m_writer.isCancelled = [this] { return isGivenUp(); };
+}
+
+void TSExportRun::savePhotos(const QString &folder, std::unique_ptr<TSRunSession> session)
+{
     m_isSkip = false;
     if (!TSIsDirectory(folder))
         return;
-    data->isExitExport = false;
+    m_session = std::move(session);
+    const TSRunSession::Current current(*m_session);
+    m_session->isExitExport() = false;
     m_savedPaths.clear();
     m_savedCount = 0;
     m_conflictChoice = TSConflictChoice::NotAsked;
-    if (data->exportNames.isEmpty()) {
+    if (m_session->data().exportNames.isEmpty()) {
+        m_host.closeProgressSheet();
+    } else {
+        m_session->computeOutputSizes();
+        m_targets.begin(folder, keptFiles);
+        walk();
+    }
+    m_workers.reset();
+    m_session.reset();
+}
+
+void TSExportRun::walk()
+{
+    if (m_session->isHasBiggerPhoto(biggestWithoutAsking) && !m_host.continueWithBiggerPhoto()) {
         m_host.closeProgressSheet();
         return;
     }
-    if (isHasBiggerPhoto() && !m_host.continueWithBiggerPhoto()) {
-        m_host.closeProgressSheet();
-        return;
-    }
-    m_targets.begin(folder, keptFiles);
-    for (qint64 index = 0; index < data->photoCount(); ++index)
+    m_workers.emplace(jobs > 0 ? jobs : QThread::idealThreadCount(), halfOfMemory());
+    for (qint64 index = 0; index < m_session->data().photoCount(); ++index)
         if (exportPhoto(index) == Step::Leave)
             return;
     finish();
 }
 
-bool TSExportRun::isHasBiggerPhoto()
+/// Any thread of the run.
+bool TSExportRun::isGivenUp() const
 {
-    TSDataManager *data = TSDataManager::dataManager();
-    bool isBigger = false;
-    // The loop runs to its end whatever it finds: every output size has to be fresh.
-    for (qint64 index = 0; index < data->photoCount(); ++index) {
-        const auto photo = TSPhotoManager::photoManager()->photoAtIndex(index);
-        if (!photo)
-            continue;
-        if (photo->photoSize.width() == 0)
-            data->GetPhotoSize(index);
-        const QSizeF size = outputSize(*photo);
-        photo->photoOutputSize = size;
-        isBigger = isBigger || size.width() * size.height() > biggestWithoutAsking;
-    }
-    return isBigger;
+    return isCancelled || m_session->isExitExport();
 }
 
-/// The gate that each photo passes four times.
+/// The gate that each photo passes.
 bool TSExportRun::isLeaving()
 {
     while (isPausing) {
-        settle();
+        m_pending.tellEnded();
         QThread::usleep(1000);
     }
-    if (!isCancelled && !TSDataManager::dataManager()->isExitExport)
+    if (!isGivenUp())
         return false;
-    settle();
+    m_pending.tellAll();
     if (isCancelled)
         m_host.closeProgressSheet();
     return true;
@@ -110,36 +92,34 @@ TSExportRun::Step TSExportRun::exportPhoto(qint64 index)
     if (isLeaving())
         return Step::Leave;
     const auto photo = TSPhotoManager::photoManager()->photoAtIndex(index);
-    const auto item = TSDataManager::dataManager()->itemAtIndex(index);
+    const auto item = m_session->data().itemAtIndex(index);
     if (!photo || !item)
         return Step::GoOn;
     m_photoTimer.start();
     TSExportOutcome outcome;
     outcome.size = QSizeF(photo->photoOutputSize).toSize();
-    Step step = Step::GoOn;
     if (!TSFileExists(item->sourcePath())) {
-        outcome.status = Status::Skipped;
-        outcome.reason = qtTrId("The photo's file is no longer there.");
-        settle();
-        if (!m_isSkip)
-            m_host.sourceIsMissing(item->sourcePath());
-        m_isSkip = true;
+        tellMissing(index, item->sourcePath(), outcome);
     } else if (isTooBig(*photo)) {
         outcome.reason = qtTrId("The output would have %1 pixels, more than 20000 × 20000; make it smaller.")
                              .arg(wholeSize(photo->photoOutputSize));
+        report(index, false, outcome);
     } else {
-        step = saveImage(index, *photo, *item, outcome);
+        return saveImage(index, *photo, *item, outcome);
     }
-    if (step == Step::GoOn || (step == Step::Leave && !outcome.reason.isEmpty()))
-        report(index, outcome);
-    return step;
+    return Step::GoOn;
 }
 
-void TSExportRun::report(qint64 index, TSExportOutcome &outcome)
+void TSExportRun::tellMissing(qint64 index, const QString &path, TSExportOutcome &outcome)
 {
-    settle();
-    outcome.milliseconds = m_photoTimer.elapsed();
-    m_host.photoIsDone(index, outcome);
+    outcome.status = Status::Skipped;
+    outcome.reason = qtTrId("The photo's file is no longer there.");
+    if (!m_isSkip) {
+        m_pending.tellAll();
+        m_host.sourceIsMissing(path);
+    }
+    m_isSkip = true;
+    report(index, false, outcome);
 }
 
 bool TSExportRun::isTooBig(const TSPhoto &photo) const
@@ -151,50 +131,60 @@ bool TSExportRun::isTooBig(const TSPhoto &photo) const
 TSExportRun::Step TSExportRun::saveImage(qint64 index, const TSPhoto &photo, const TSImageBrowserItem &item,
                                          TSExportOutcome &outcome)
 {
-    TSDataManager *data = TSDataManager::dataManager();
     const QSizeF size = photo.photoOutputSize;
-    const QRectF frame(QPointF(0, 0), size);
-    m_composer.overlayArrays = TSOverlayManager::overlayManager()->overlays();
+    m_composer.overlayArrays = m_session->overlays().overlays();
     std::optional<TSOutputImage> image =
-        m_composer.createOutputImage(photo.path, frame, photo, index, size.width() / photo.photoSize.width());
+        m_composer.createOutputImage(photo.path, QRectF(QPointF(0, 0), size), photo, index,
+                                     size.width() / photo.photoSize.width());
     if (!image) {
         outcome.reason = m_composer.reason();
+        report(index, false, outcome);
         return Step::GoOn;
     }
     outcome.size = image->size();
-    const QString name = data->exportNames.value(index);
+    if (chooseTarget(index, outcome) == Step::Leave)
+        return Step::Leave;
+    if (isDryRun && placed)
+        placed(index, m_composer.placements(QSizeF(image->size()), photo));
+    addWarnings(*image, outcome);
+    if (isRefused(outcome.targetPath, outcome)) {
+        report(index, true, outcome);
+        return Step::GoOn;
+    }
+    const TSDataManager &data = m_session->data();
+    const TSOutputRequest request{outcome.targetPath, data.type, data.quality, item.sourcePath(),
+                                  photo.propertiesDic};
+    stream(index, {std::move(*image), request, outcome, m_photoTimer});
+    return Step::GoOn;
+}
+
+TSExportRun::Step TSExportRun::chooseTarget(qint64 index, TSExportOutcome &outcome)
+{
+    const QString name = m_session->data().exportNames.value(index);
     QString path = m_targets.path(name);
-    if (isBoundToTrailing(name, path))
-        settle();
+    waitForNamesLike(name, path);
     if (isLeaving())
         return Step::Leave;
     if (resolveConflict(name, path) == Step::Leave) {
         outcome.status = Status::Skipped;
         outcome.reason = qtTrId("The run was stopped: %1 is there already.").arg(path);
         m_host.closeProgressSheet();
+        report(index, false, outcome);
         return Step::Leave;
     }
     outcome.targetPath = path;
     m_savedPaths.append(path);
-    if (isLeaving())
-        return Step::Leave;
-    if (isDryRun && placed)
-        placed(index, m_composer.placements(QSizeF(image->size()), photo));
-    if (isRefused(path, outcome)) {
-        settle();
-        m_host.setProgressTip(index);
-        return Step::GoOn;
-    }
-    return writeImage(index, *image,
-                      {path, data->type, data->quality, item.sourcePath(), photo.propertiesDic}, outcome);
+    return isLeaving() ? Step::Leave : Step::GoOn;
 }
 
-/// Whether a name is free shows once the file before is there, and a question is asked about nothing less
+/// Whether a name is free shows once the files before are there, and a question is asked about nothing less
 /// than what the user can see.
-bool TSExportRun::isBoundToTrailing(const QString &name, const QString &path) const
+void TSExportRun::waitForNamesLike(const QString &name, const QString &path)
 {
-    const bool asks = m_conflictChoice == TSConflictChoice::NotAsked && m_targets.isTaken(path);
-    return m_trailing && (asks || m_targets.mayMeet(name, m_trailing->path));
+    if (m_conflictChoice == TSConflictChoice::NotAsked && m_targets.isTaken(path))
+        m_pending.tellAll();
+    else
+        m_pending.tellThrough([&](const QString &earlier) { return m_targets.mayMeet(name, earlier); });
 }
 
 TSExportRun::Step TSExportRun::resolveConflict(const QString &name, QString &path)
@@ -213,6 +203,8 @@ bool TSExportRun::isRefused(const QString &path, TSExportOutcome &outcome)
 {
     if (m_targets.isOriginal(path)) {
         outcome.reason = qtTrId("%1 is one of the originals and is not written to.").arg(path);
+    } else if (outcome.isUnmarked && isStrict) {
+        outcome.reason = qtTrId("No mark shows on this photo.");
     } else if (isDryRun) {
         m_targets.plan(path);
         outcome.status = Status::Skipped;
@@ -221,58 +213,71 @@ bool TSExportRun::isRefused(const QString &path, TSExportOutcome &outcome)
     return !outcome.reason.isEmpty();
 }
 
-TSExportRun::Step TSExportRun::writeImage(qint64 index, TSOutputImage &image, const TSOutputRequest &request,
-                                          TSExportOutcome &outcome)
+/// Whoever puts marks on photos wants to see one on each.
+void TSExportRun::addWarnings(const TSOutputImage &image, TSExportOutcome &outcome) const
 {
-    TSEncodedOutput encoded = m_writer.encode(image, request);
-    settle();
-    if (isLeaving()) {
+    outcome.isUnmarked = m_session->overlays().overlayCount() > 0 && !image.isMarked();
+    if (outcome.isUnmarked)
+        outcome.warnings.append(qtTrId("No mark shows on this photo."));
+    for (const QString &path : m_composer.missingPictures())
+        outcome.warnings.append(qtTrId("The picture %1 of a mark cannot be read.").arg(path));
+}
+
+/// Returns as soon as there is room to stream the photo.
+void TSExportRun::stream(qint64 index, Job job)
+{
+    const double memory = job.image.memory();
+    const QString path = job.request.targetPath;
+    const auto task = std::make_shared<std::packaged_task<TSExportOutcome()>>(
+        [this, job = std::move(job)]() mutable { return streamed(job); });
+    m_pending.add(index, path, task->get_future());
+    m_workers->add(memory, [task] { (*task)(); });
+    m_pending.tellEnded();
+}
+
+/// On a thread of its own.
+TSExportOutcome TSExportRun::streamed(Job &job)
+{
+    TSEncodedOutput encoded;
+    {
+        const TSExportWorkers::Slot slot(*m_workers);
+        encoded = m_writer.encode(job.image, job.request);
+    }
+    while (isPausing && !isGivenUp())
+        QThread::usleep(1000);
+    TSExportOutcome outcome = job.outcome;
+    if (isGivenUp()) {
         outcome.status = Status::Skipped;
         outcome.reason = qtTrId("The export was cancelled.");
-        return Step::Leave;
-    }
-    writeBehind(index, std::move(encoded), request, outcome);
-    return Step::Later;
-}
-
-/// The disk takes a good part of the time of a photo, and nothing of the processor's.
-void TSExportRun::writeBehind(qint64 index, TSEncodedOutput encoded, const TSOutputRequest &request,
-                              const TSExportOutcome &begun)
-{
-    const auto write = [this, encoded = std::move(encoded), request, begun, timer = m_photoTimer] {
-        const TSWriteResult result = m_writer.write(encoded, request);
-        TSExportOutcome outcome = begun;
-        outcome.status = result.isWritten ? Status::Written : Status::Failed;
-        outcome.reason = result.reason;
-        outcome.note = result.note;
-        outcome.milliseconds = timer.elapsed();
         return outcome;
-    };
-    m_trailing.emplace(Trailing{index, request.targetPath, std::async(write)});
+    }
+    const TSWriteResult result = m_writer.write(encoded, job.request);
+    outcome.status = result.isWritten ? Status::Written : Status::Failed;
+    outcome.reason = result.reason;
+    if (!result.note.isEmpty())
+        outcome.warnings.append(result.note);
+    outcome.milliseconds = job.timer.elapsed();
+    return outcome;
 }
 
-void TSExportRun::settle()
+void TSExportRun::report(qint64 index, bool isNamed, TSExportOutcome outcome)
 {
-    if (!m_trailing)
-        return;
-    Trailing trailing = std::move(*m_trailing);
-    m_trailing.reset();
-    const TSExportOutcome outcome = trailing.outcome.get();
+    outcome.milliseconds = m_photoTimer.elapsed();
+    m_pending.add(index, isNamed, outcome);
+}
+
+void TSExportRun::tell(qint64 index, bool isNamed, const TSExportOutcome &outcome)
+{
     if (outcome.status == Status::Written)
         ++m_savedCount;
-    m_host.setProgressTip(trailing.index);
-    m_host.photoIsDone(trailing.index, outcome);
-}
-
-void TSExportRun::settleIfWritten()
-{
-    if (m_trailing && m_trailing->outcome.wait_for(std::chrono::seconds(0)) == std::future_status::ready)
-        settle();
+    if (isNamed)
+        m_host.setProgressTip(index);
+    m_host.photoIsDone(index, outcome);
 }
 
 void TSExportRun::finish()
 {
-    settle();
+    m_pending.tellAll();
     m_host.closeProgressSheet();
     if (m_savedCount > 0)
         m_host.successfulSaveToPath(m_savedPaths.constFirst());

@@ -2,11 +2,13 @@
 
 #include "export/TSExportHost.h"
 #include "export/TSExportTargets.h"
+#include "export/TSExportWorkers.h"
 #include "export/TSOutputComposer.h"
 #include "export/TSOutputWriter.h"
+#include "export/TSPendingOutcomes.h"
+#include "export/TSRunSession.h"
 
 #include <atomic>
-#include <future>
 #include <memory>
 #include <optional>
 #include <QElapsedTimer>
@@ -14,10 +16,12 @@
 
 class TSImageBrowserItem;
 
-/// The run over the photo list: one file for every photo, in list order, on whatever thread calls
-/// `savePhotos`. The host answers its questions; the flags may be set from any thread, and are looked at
-/// four times in each photo and while its picture streams through. While a photo streams, the one before it
-/// is still being written on another thread; what becomes of it is told before anything of a later one is.
+/// The run over the photo list: one file for every photo. The thread that calls `savePhotos` walks the list:
+/// it composes each photo's marks and chooses its file's name, in list order, and asks and tells the host.
+/// Photos then stream side by side on threads of their own, each giving the same file as it would alone.
+///
+/// The flags may be set from any thread, and are looked at four times in each photo and while its picture
+/// streams through.
 class TSExportRun {
 public:
     explicit TSExportRun(TSExportHost &host);
@@ -27,6 +31,11 @@ public:
 
     /// Goes through everything but writes no file: each photo's outcome tells the name it would get.
     bool isDryRun = false;
+    /// A photo on which no mark shows is not written.
+    bool isStrict = false;
+    /// How many photos stream at once; 0 for as many as there are processors. Fewer do where they would take
+    /// half of the machine's memory.
+    int jobs = 0;
     /// In pixels, which is 20000 by 20000: whoever exports more is asked first.
     static constexpr double biggestWithoutAsking = 400000000;
     /// A photo whose output has more pixels than this is not made; 0 for no limit.
@@ -36,40 +45,39 @@ public:
     /// Called for each photo of a dry run with the places of its marks.
     std::function<void(qint64 index, const std::vector<TSMarkPlacement> &)> placed;
 
-    /// A folder that is not there ends the run without a word to the host.
-    void savePhotos(const QString &folder);
+    /// A folder that is not there ends the run without a word to the host. The session ends on this thread.
+    void savePhotos(const QString &folder, std::unique_ptr<TSRunSession> session = TSRunSession::snapshot());
     /// Every path that a write was attempted to, in order, whether it worked or not.
     const QStringList &savedPaths() const { return m_savedPaths; }
     qint64 savedCount() const { return m_savedCount; }
 
-    /// Computes the output sizes of all photos, and answers whether one is above `biggestWithoutAsking`.
-    static bool isHasBiggerPhoto();
-
 private:
-    /// What follows a photo: its outcome is there, or it comes once the file is written, or the run ends.
-    enum class Step { GoOn, Later, Leave };
-    /// The photo whose file is being written.
-    struct Trailing {
-        qint64 index;
-        QString path;
-        std::future<TSExportOutcome> outcome;
+    enum class Step { GoOn, Leave };
+    /// A photo that is ready to stream.
+    struct Job {
+        TSOutputImage image;
+        TSOutputRequest request;
+        TSExportOutcome outcome;
+        QElapsedTimer timer;
     };
 
+    void walk();
+    bool isGivenUp() const;
     bool isLeaving();
     Step exportPhoto(qint64 index);
-    void report(qint64 index, TSExportOutcome &outcome);
+    void tellMissing(qint64 index, const QString &path, TSExportOutcome &outcome);
     Step saveImage(qint64 index, const TSPhoto &photo, const TSImageBrowserItem &item,
                    TSExportOutcome &outcome);
-    bool isBoundToTrailing(const QString &name, const QString &path) const;
+    Step chooseTarget(qint64 index, TSExportOutcome &outcome);
+    void waitForNamesLike(const QString &name, const QString &path);
     Step resolveConflict(const QString &name, QString &path);
-    Step writeImage(qint64 index, TSOutputImage &image, const TSOutputRequest &request,
-                    TSExportOutcome &outcome);
-    void writeBehind(qint64 index, TSEncodedOutput encoded, const TSOutputRequest &request,
-                     const TSExportOutcome &begun);
-    bool isTooBig(const TSPhoto &photo) const;
     bool isRefused(const QString &path, TSExportOutcome &outcome);
-    void settle();
-    void settleIfWritten();
+    void addWarnings(const TSOutputImage &image, TSExportOutcome &outcome) const;
+    bool isTooBig(const TSPhoto &photo) const;
+    void stream(qint64 index, Job job);
+    TSExportOutcome streamed(Job &job);
+    void report(qint64 index, bool isNamed, TSExportOutcome outcome);
+    void tell(qint64 index, bool isNamed, const TSExportOutcome &outcome);
     void finish();
 
     TSExportHost &m_host;
@@ -81,5 +89,7 @@ private:
     bool m_isSkip = false;
     int m_conflictChoice = TSConflictChoice::NotAsked;
     QElapsedTimer m_photoTimer;
-    std::optional<Trailing> m_trailing;
+    std::unique_ptr<TSRunSession> m_session;
+    TSPendingOutcomes m_pending;
+    std::optional<TSExportWorkers> m_workers;
 };

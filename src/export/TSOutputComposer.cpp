@@ -1,9 +1,10 @@
 #include "export/TSOutputComposer.h"
 
 #include "export/TSFailureText.h"
-#include "overlays/TSGroup.h"
 #include "overlays/TSImage.h"
+#include "overlays/TSOverlayWalk.h"
 #include "overlays/TSText.h"
+#include "session/TSCacheManager.h"
 #include "session/TSDataManager.h"
 #include "session/TSPhotoManager.h"
 
@@ -44,16 +45,13 @@ private:
 
 namespace {
 
-/// Rendered text is dropped and not made anew: the next draw on the screen does it, and in a batch there may
-/// be none.
-void clearTextImages(const TSOverlayManager::Overlays &overlays)
+/// Rendered text is dropped and not made anew: the next draw does it, and there may be none.
+void clearTextImages()
 {
-    for (const auto &overlay : overlays) {
-        if (auto *text = dynamic_cast<TSText *>(overlay.get()))
+    TSForEachOverlay(TSOverlayManager::overlayManager()->overlays(), [](TSOverlay &overlay) {
+        if (auto *text = dynamic_cast<TSText *>(&overlay))
             text->clearTextImageCache();
-        else if (const auto *group = dynamic_cast<const TSGroup *>(overlay.get()))
-            clearTextImages(group->overlaysOfGroup());
-    }
+    });
 }
 
 TSMarkPlacement placementOf(const TSOverlay &overlay)
@@ -134,10 +132,22 @@ std::vector<TSMarkPlacement> TSOutputComposer::placements(const QSizeF &frameSiz
     return list;
 }
 
+QStringList TSOutputComposer::missingPictures() const
+{
+    QStringList paths;
+    TSForEachOverlay(TSOverlayManager::overlayManager()->overlays(), [&paths](const TSOverlay &overlay) {
+        const auto *image = dynamic_cast<const TSImage *>(&overlay);
+        if (image && !paths.contains(image->imagePath()) &&
+            !TSCacheManager::cacheManager()->imageWithPath(image->imagePath()))
+            paths.append(image->imagePath());
+    });
+    return paths;
+}
+
 void TSOutputComposer::restoreCanvas()
 {
     TSPhotoManager *photos = TSPhotoManager::photoManager();
     if (const auto shown = photos->photoAtIndex(photos->selectedPhoto()))
         m_synchronisation.updateOverlaysForPhoto(*shown, false);
-    clearTextImages(TSOverlayManager::overlayManager()->overlays());
+    clearTextImages();
 }

@@ -22,7 +22,7 @@ struct TSMarkPlacement {
 /// what they draw, and puts everything back for the photo on the canvas. So a mark is placed by one code on
 /// the screen and in the file.
 ///
-/// Runs on the export thread, while nobody else uses the session.
+/// Works on the session that is current on the thread, while nobody else uses it.
 class TSOutputComposer {
 public:
     /// The overlays to draw, the topmost first; emptied by `drawOverlay`.
@@ -41,6 +41,8 @@ public:
     std::vector<TSMarkPlacement> placements(const QSizeF &frameSize, const TSPhoto &photo);
 
     const QString &reason() const { return m_reason; }
+    /// The picture files of the session's marks that cannot be read, each once.
+    QStringList missingPictures() const;
 
 private:
     class BorrowedCanvas;

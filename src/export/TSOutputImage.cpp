@@ -1,5 +1,7 @@
 #include "export/TSOutputImage.h"
 
+#include <algorithm>
+
 class TSOutputImage::Painter : public platform::StripPainter {
 public:
     Painter(std::shared_ptr<platform::PaintLayer> layer, const QSize &thumbnail)
@@ -28,6 +30,16 @@ platform::LazyImage TSOutputImage::picture(const QSize &thumbnail)
 {
     m_painter = std::make_shared<Painter>(m_layer, thumbnail);
     return m_source.inSRGB().resized(m_size).painted(m_painter);
+}
+
+/// Most photos pass through in strips, but some formats are decoded whole.
+double TSOutputImage::memory() const
+{
+    constexpr double always = 4e7;
+    constexpr double bytesPerPixel = 4;
+    const QSizeF source(m_source.size());
+    const QSizeF output(m_size);
+    return always + bytesPerPixel * std::max(source.width() * source.height(), output.width() * output.height());
 }
 
 QImage TSOutputImage::thumbnail() const

@@ -16,6 +16,10 @@ public:
     TSOutputImage(const platform::LazyImage &source, platform::PaintLayer layer);
 
     QSize size() const { return m_size; }
+    /// Whether anything of the marks shows.
+    bool isMarked() const { return m_layer->shows(); }
+    /// About how many bytes encoding takes, so that not too many are encoded at once.
+    double memory() const;
     /// The picture with the marks on it. A small copy of that size is collected while it is encoded.
     platform::LazyImage picture(const QSize &thumbnail = {});
     QImage thumbnail() const;

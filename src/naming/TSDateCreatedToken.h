@@ -11,4 +11,5 @@ public:
 
     TSDateCreatedToken();
     explicit TSDateCreatedToken(platform::KeyedUnarchiver &coder);
+    std::shared_ptr<TSToken> copy() const override { return std::make_shared<TSDateCreatedToken>(*this); }
 };

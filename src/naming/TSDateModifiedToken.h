@@ -11,4 +11,5 @@ public:
 
     TSDateModifiedToken();
     explicit TSDateModifiedToken(platform::KeyedUnarchiver &coder);
+    std::shared_ptr<TSToken> copy() const override { return std::make_shared<TSDateModifiedToken>(*this); }
 };

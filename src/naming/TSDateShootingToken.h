@@ -11,4 +11,5 @@ public:
 
     TSDateShootingToken();
     explicit TSDateShootingToken(platform::KeyedUnarchiver &coder);
+    std::shared_ptr<TSToken> copy() const override { return std::make_shared<TSDateShootingToken>(*this); }
 };

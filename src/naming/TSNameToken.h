@@ -12,6 +12,7 @@ public:
 
     TSNameToken();
     explicit TSNameToken(platform::KeyedUnarchiver &coder);
+    std::shared_ptr<TSToken> copy() const override { return std::make_shared<TSNameToken>(*this); }
 
     QStringList classChain() const override;
     QStringList tokenMenu() const override;

@@ -11,6 +11,7 @@ public:
 
     TSNumberToken();
     explicit TSNumberToken(platform::KeyedUnarchiver &coder);
+    std::shared_ptr<TSToken> copy() const override { return std::make_shared<TSNumberToken>(*this); }
 
     QStringList classChain() const override;
     QStringList tokenMenu() const override;

@@ -11,4 +11,5 @@ public:
 
     TSTimeShootingToken();
     explicit TSTimeShootingToken(platform::KeyedUnarchiver &coder);
+    std::shared_ptr<TSToken> copy() const override { return std::make_shared<TSTimeShootingToken>(*this); }
 };

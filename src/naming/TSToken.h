@@ -2,6 +2,7 @@
 
 #include "platform/Archivable.h"
 
+#include <memory>
 #include <QString>
 #include <QStringList>
 
@@ -16,6 +17,8 @@ class TSToken : public platform::Archivable {
 public:
     TSToken() = default;
     explicit TSToken(platform::KeyedUnarchiver &coder);
+    /// Of the same class, with a choice of its own.
+    virtual std::shared_ptr<TSToken> copy() const { return std::make_shared<TSToken>(*this); }
 
     /// 0 in the pattern of file names, 1 among the words of a text.
     int usingLocal() const { return m_usingLocal; }

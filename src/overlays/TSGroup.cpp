@@ -43,6 +43,12 @@ TSGroup::TSGroup(platform::KeyedUnarchiver &coder) : TSOverlay(coder)
             m_overlaysOfGroup.push_back(std::move(overlay));
 }
 
+TSGroup::TSGroup(const TSGroup &other) : TSOverlay(other)
+{
+    for (const auto &member : other.m_overlaysOfGroup)
+        m_overlaysOfGroup.push_back(member->copy());
+}
+
 void TSGroup::updateOverlayFrameRatioOfGroup()
 {
     const QRectF &g = frame();

@@ -17,6 +17,7 @@ public:
     static std::shared_ptr<TSGroup> groupOverlayWithOverlays(const Members &overlays);
     explicit TSGroup(const Members &overlays);
     explicit TSGroup(platform::KeyedUnarchiver &coder);
+    std::shared_ptr<TSOverlay> copy() const override { return std::shared_ptr<TSGroup>(new TSGroup(*this)); }
 
     const Members &overlaysOfGroup() const { return m_overlaysOfGroup; }
 
@@ -39,6 +40,9 @@ public:
 
     QStringList classChain() const override;
     void encodeWithCoder(platform::KeyedArchiver &coder) const override;
+
+protected:
+    TSGroup(const TSGroup &other);
 
 private:
     QRectF memberFrame(const QRectF &ratio) const;

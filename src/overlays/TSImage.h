@@ -12,6 +12,7 @@ class TSImage : public TSOverlay {
 public:
     explicit TSImage(const QString &path) : m_imagePath(path) {}
     explicit TSImage(platform::KeyedUnarchiver &coder);
+    std::shared_ptr<TSOverlay> copy() const override { return std::shared_ptr<TSImage>(new TSImage(*this)); }
 
     /// Chosen from the user's disk, against one of the program's own.
     bool isFromFinder() const { return m_isFromFinder; }
@@ -29,6 +30,9 @@ public:
 
     QStringList classChain() const override;
     void encodeWithCoder(platform::KeyedArchiver &coder) const override;
+
+protected:
+    TSImage(const TSImage &) = default;
 
 private:
     QImage pixelsOf(const std::shared_ptr<platform::Picture> &picture, const QSize &size);

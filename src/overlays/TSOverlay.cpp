@@ -20,7 +20,7 @@ QTransform turnAbout(const QPointF &center, double angle)
 
 } // namespace
 
-TSOverlay::TSOverlay() : m_tracker(std::make_unique<TSTracker>()), m_shadow(std::make_shared<TSShadow>()) {}
+TSOverlay::TSOverlay() : m_shadow(std::make_shared<TSShadow>()) {}
 
 TSOverlay::TSOverlay(platform::KeyedUnarchiver &coder) : TSOverlay()
 {
@@ -46,7 +46,12 @@ TSOverlay::TSOverlay(platform::KeyedUnarchiver &coder) : TSOverlay()
     updateFrameByAlignmentRatio(false);
 }
 
-TSOverlay::~TSOverlay() = default;
+TSOverlay::TSOverlay(const TSOverlay &other) = default;
+
+std::shared_ptr<TSOverlay> TSOverlay::copy() const
+{
+    return std::shared_ptr<TSOverlay>(new TSOverlay(*this));
+}
 
 void TSOverlay::encodeWithCoder(platform::KeyedArchiver &coder) const
 {
@@ -54,7 +59,7 @@ void TSOverlay::encodeWithCoder(platform::KeyedArchiver &coder) const
     coder.encodeRect(u"centerRatioOfFrame", m_centerRatioOfFrame);
     coder.encodeFloat(u"angle", float(m_angle));
     coder.encodeFloat(u"opacity", float(m_opacity));
-    coder.encodeObject(u"shadow", m_shadow);
+    coder.encodeObject(u"shadow", std::make_shared<TSShadow>(*m_shadow));
     coder.encodeInteger(u"wmAlignment", m_wmAlignment);
     coder.encodeFloat(u"xPixel", float(m_xPixel));
     coder.encodeFloat(u"yPixel", float(m_yPixel));
@@ -133,7 +138,7 @@ void TSOverlay::updateFrameByCenterPoint(const QPointF &center)
 {
     const QPointF turned = turnAbout(center, m_angle).map(m_frame.center());
     m_frame.moveTopLeft(turned - QPointF(m_frame.width() / 2, m_frame.height() / 2));
-    m_tracker->setFrame(m_frame);
+    m_tracker.setFrame(m_frame);
 }
 
 void TSOverlay::drawIncontext(platform::PaintLayer &) {}

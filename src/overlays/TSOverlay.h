@@ -31,17 +31,21 @@ class TSOverlay : public platform::Archivable {
 public:
     TSOverlay();
     explicit TSOverlay(platform::KeyedUnarchiver &coder);
-    ~TSOverlay() override;
-    TSOverlay(const TSOverlay &) = delete;
     TSOverlay &operator=(const TSOverlay &) = delete;
+
+    /// The overlay with all that belongs to it, members and rows, sharing nothing that either could change:
+    /// it may be handed to another thread.
+    virtual std::shared_ptr<TSOverlay> copy() const;
 
     double angle() const { return m_angle; }
     void setAngle(double angle) { m_angle = angle; }
     double opacity() const { return m_opacity; }
     void setOpacity(double opacity) { m_opacity = opacity; }
-    TSTracker *tracker() const { return m_tracker.get(); }
-    const std::shared_ptr<TSShadow> &shadow() const { return m_shadow; }
-    void setShadow(std::shared_ptr<TSShadow> shadow) { m_shadow = std::move(shadow); }
+    TSTracker *tracker() { return &m_tracker; }
+    const TSTracker *tracker() const { return &m_tracker; }
+    /// Replaced as a whole, so that copies can share it.
+    const std::shared_ptr<const TSShadow> &shadow() const { return m_shadow; }
+    void setShadow(std::shared_ptr<const TSShadow> shadow) { m_shadow = std::move(shadow); }
 
     unsigned wmAlignment() const { return m_wmAlignment; }
     void setWmAlignment(unsigned code) { m_wmAlignment = code; }
@@ -119,6 +123,8 @@ public:
     void encodeWithCoder(platform::KeyedArchiver &coder) const override;
 
 protected:
+    TSOverlay(const TSOverlay &other);
+
     /// What a Script text writes in place of its ratio and anchor.
     virtual void writeScriptRow(qint64) {}
 
@@ -130,8 +136,8 @@ private:
 
     double m_angle = 0;
     double m_opacity = 0.8;
-    std::unique_ptr<TSTracker> m_tracker;
-    std::shared_ptr<TSShadow> m_shadow;
+    TSTracker m_tracker;
+    std::shared_ptr<const TSShadow> m_shadow;
     unsigned m_wmAlignment = TSPositionCode::None;
     unsigned m_wmUnionAlignment = TSPositionCode::None;
     unsigned m_offsetAlignment = TSPositionCode::None;

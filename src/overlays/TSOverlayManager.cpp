@@ -5,7 +5,6 @@
 #include "overlays/TSText.h"
 #include "platform/KeyedArchiver.h"
 #include "platform/KeyedUnarchiver.h"
-#include "session/TSCurrentInstance.h"
 
 #include <algorithm>
 
@@ -25,11 +24,6 @@ qint64 countTexts(const Overlays &overlays, Test test)
 
 } // namespace
 
-TSOverlayManager::TSOverlayManager()
-{
-    TSCurrentInstance<TSOverlayManager>::enter(this);
-}
-
 TSOverlayManager::TSOverlayManager(platform::KeyedUnarchiver &coder)
 {
     for (const platform::ArchiveValue &value : coder.decodeObject(u"overlays").toArray())
@@ -37,9 +31,11 @@ TSOverlayManager::TSOverlayManager(platform::KeyedUnarchiver &coder)
             m_overlays.push_back(std::move(overlay));
 }
 
-TSOverlayManager::~TSOverlayManager()
+TSOverlayManager::TSOverlayManager(const TSOverlayManager &other)
 {
-    TSCurrentInstance<TSOverlayManager>::leave(this);
+    m_overlays.reserve(other.m_overlays.size());
+    for (const auto &overlay : other.m_overlays)
+        m_overlays.push_back(overlay->copy());
 }
 
 TSOverlayManager *TSOverlayManager::overlayManager()

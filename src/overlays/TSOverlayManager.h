@@ -1,6 +1,7 @@
 #pragma once
 
 #include "overlays/TSOverlay.h"
+#include "session/TSCurrentInstance.h"
 #include "session/TSPhotoListObserver.h"
 
 class TSImage;
@@ -8,17 +9,19 @@ class TSImage;
 /// The working list of overlays: one list for all photos, index 0 on top, Script texts at the end. What
 /// differs from photo to photo lies in the rows of each overlay, which follow the photo list from here.
 ///
-/// Main thread, and the export thread for reading while the main thread stands behind a sheet.
+/// For the thread that the list is current on.
 class TSOverlayManager : public platform::Archivable, public TSPhotoListObserver {
 public:
     using Overlays = std::vector<std::shared_ptr<TSOverlay>>;
 
-    TSOverlayManager();
+    TSOverlayManager() : m_current(this) {}
     explicit TSOverlayManager(platform::KeyedUnarchiver &coder);
-    ~TSOverlayManager() override;
+    /// The list as it is now, with overlays of its own, for one thread to work on.
+    TSOverlayManager(const TSOverlayManager &other);
+    TSOverlayManager &operator=(const TSOverlayManager &) = delete;
 
-    /// The current instance: the one made last that still lives, or else one made at the first use. Managers
-    /// that were decoded from an archive never become current.
+    /// The current instance: the calling thread's own, the one made last that still lives, or else one made
+    /// at the first use. Managers that were decoded from an archive never become current.
     static TSOverlayManager *overlayManager();
 
     qint64 overlayCount() const { return qint64(m_overlays.size()); }
@@ -59,5 +62,6 @@ public:
     void encodeWithCoder(platform::KeyedArchiver &coder) const override;
 
 private:
+    TSCurrentInstance<TSOverlayManager> m_current;
     Overlays m_overlays;
 };

@@ -127,7 +127,7 @@ void TSOverlay::placeByOffset(const QPointF &offset)
             origin = TSOriginForAnchor(m_wmAlignment, TSAnchorOfRect(m_wmAlignment, canvas()) + offset, size);
         m_frame = QRectF(origin, size);
     }
-    m_tracker->setFrame(m_frame);
+    m_tracker.setFrame(m_frame);
 }
 
 void TSOverlay::updateFrameByAlignmentRatio(bool)
@@ -147,7 +147,7 @@ void TSOverlay::updateFrameByAlignment()
     if (way >= anchors)
         return;
     m_frame.moveTopLeft(TSOriginForAnchor(way, TSAnchorOfRect(way, canvas()), m_frame.size()));
-    m_tracker->setFrame(m_frame);
+    m_tracker.setFrame(m_frame);
     updateAlignmentAndRatio();
     updateOffsetPixel();
 }

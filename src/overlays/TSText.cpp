@@ -67,6 +67,17 @@ TSText::TSText(const QString &string) : m_textStorage(string, firstLook())
     m_textArray.push_back(string);
 }
 
+TSText::TSText(const TSText &other) = default;
+
+std::shared_ptr<TSOverlay> TSText::copy() const
+{
+    const std::shared_ptr<TSText> text(new TSText(*this));
+    for (TSTokenValue &value : text->m_textArray)
+        if (auto *token = std::get_if<std::shared_ptr<TSToken>>(&value))
+            *token = (*token)->copy();
+    return text;
+}
+
 void TSText::appendRow()
 {
     TSOverlay::appendRow();

@@ -25,6 +25,7 @@ public:
     /// The string must not be empty: the look of all later words is taken from its first character.
     explicit TSText(const QString &string);
     explicit TSText(platform::KeyedUnarchiver &coder);
+    std::shared_ptr<TSOverlay> copy() const override;
 
     bool isStrokeEnable() const { return m_look.isStrokeEnable; }
     void setIsStrokeEnable(bool enable) { m_look.isStrokeEnable = enable; }
@@ -99,6 +100,7 @@ public:
     void encodeWithCoder(platform::KeyedArchiver &coder) const override;
 
 protected:
+    TSText(const TSText &other);
     void writeScriptRow(qint64 position) override;
 
 private:

@@ -39,6 +39,11 @@ struct TSTextPicture {
 /// last picture, which in a batch of equal photos serve again and again. One thread at a time.
 class TSTextRenderer {
 public:
+    TSTextRenderer() = default;
+    /// Fonts belong to the thread that a layout was made on, so a copy begins with nothing laid out.
+    TSTextRenderer(const TSTextRenderer &) {}
+    TSTextRenderer &operator=(const TSTextRenderer &) = delete;
+
     QSizeF naturalSize(const platform::AttributedString &text);
     void render(const TSTextPicture &wanted);
     /// Premultiplied; null when there is nothing to draw on.

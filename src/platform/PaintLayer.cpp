@@ -19,6 +19,19 @@ bool isPixelExact(const QTransform &transform, const QRectF &rect, const QImage 
            corner == QPointF(corner.toPoint());
 }
 
+bool hasVisiblePixel(const QImage &image)
+{
+    if (!image.hasAlphaChannel())
+        return !image.isNull();
+    const QImage pixels = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < pixels.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(pixels.constScanLine(y));
+        if (std::any_of(line, line + pixels.width(), [](QRgb pixel) { return qAlpha(pixel) != 0; }))
+            return true;
+    }
+    return false;
+}
+
 /// The last shadow made, with all that it follows from. In a batch of equal photos the same shadow is cast
 /// again and again.
 class ShadowMemory {
@@ -203,6 +216,12 @@ bool PaintLayer::stampMeets(const Stamp &stamp, const QRect &rect)
         return stamp.bounds.intersects(rect);
     return std::any_of(stamp.places.begin(), stamp.places.end(),
                        [&](const QPoint &place) { return stamp.bounds.translated(place).intersects(rect); });
+}
+
+bool PaintLayer::shows() const
+{
+    return std::any_of(m_stamps.begin(), m_stamps.end(),
+                       [](const Stamp &stamp) { return stamp.alpha > 0 && hasVisiblePixel(stamp.image); });
 }
 
 bool PaintLayer::meets(const QRect &rect) const

@@ -41,6 +41,8 @@ public:
 
     const QSize &canvas() const { return m_canvas; }
     bool isEmpty() const { return m_stamps.empty(); }
+    /// Whether anything recorded is more than transparent.
+    bool shows() const;
     bool meets(const QRect &rect) const;
     /// Paints everything; the painter's coordinates are those of the canvas.
     void paint(QPainter &painter, const QRect &part) const;

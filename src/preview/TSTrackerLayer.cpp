@@ -16,7 +16,7 @@ const QColor knobColor(Qt::lightGray);
 const QColor auxiliaryColor =
     QColor::fromRgbF(float(0.34509803921568627), float(0.7607843137254902), float(0.043137254901960784));
 
-void drawTurnedTracker(QPainter &context, const TSOverlay &overlay)
+void drawTurnedTracker(QPainter &context, TSOverlay &overlay)
 {
     const QPointF center = overlay.tracker()->frame().center();
     QTransform turn;

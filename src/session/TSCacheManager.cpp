@@ -1,17 +1,5 @@
 #include "session/TSCacheManager.h"
 
-#include "session/TSCurrentInstance.h"
-
-TSCacheManager::TSCacheManager()
-{
-    TSCurrentInstance<TSCacheManager>::enter(this);
-}
-
-TSCacheManager::~TSCacheManager()
-{
-    TSCurrentInstance<TSCacheManager>::leave(this);
-}
-
 TSCacheManager *TSCacheManager::cacheManager()
 {
     return TSCurrentInstance<TSCacheManager>::get();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Picture.h"
+#include "session/TSCurrentInstance.h"
 
 #include <memory>
 #include <mutex>
@@ -11,8 +12,7 @@
 /// thread.
 class TSCacheManager {
 public:
-    TSCacheManager();
-    ~TSCacheManager();
+    TSCacheManager() = default;
     TSCacheManager(const TSCacheManager &) = delete;
     TSCacheManager &operator=(const TSCacheManager &) = delete;
 
@@ -25,6 +25,7 @@ public:
     void clearCache();
 
 private:
+    TSCurrentInstance<TSCacheManager> m_current{this};
     std::mutex m_lock;
     QHash<QString, std::shared_ptr<platform::Picture>> m_imageCache;
 };

@@ -1,7 +1,6 @@
 #include "session/TSDataManager.h"
 
 #include "platform/ImageFile.h"
-#include "session/TSCurrentInstance.h"
 #include "session/TSFileUtility.h"
 #include "session/TSImageUtility.h"
 #include "session/TSPhotoManager.h"
@@ -37,14 +36,14 @@ QSizeF frameSizeOfFile(const TSImageBrowserItem &item)
 
 } // namespace
 
-TSDataManager::TSDataManager()
+TSDataManager::TSDataManager(const TSDataManager &other)
+    : TSRequestedOutput(other), TSCanvas(other), TSPins(other)
 {
-    TSCurrentInstance<TSDataManager>::enter(this);
-}
-
-TSDataManager::~TSDataManager()
-{
-    TSCurrentInstance<TSDataManager>::leave(this);
+    const Lock lock(other.m_itemsLock);
+    m_itemsOfSource = other.m_itemsOfSource;
+    m_items.reserve(other.m_items.size());
+    for (const auto &item : other.m_items)
+        m_items.push_back(std::make_shared<TSImageBrowserItem>(*item));
 }
 
 TSDataManager *TSDataManager::dataManager()

@@ -1,72 +1,39 @@
 #pragma once
 
+#include "session/TSCanvas.h"
+#include "session/TSCurrentInstance.h"
 #include "session/TSImageBrowserItem.h"
-#include "session/TSOutputCodes.h"
-#include "session/TSPositionCode.h"
+#include "session/TSPins.h"
+#include "session/TSRequestedOutput.h"
 
 #include <atomic>
 #include <memory>
 #include <mutex>
 #include <QHash>
-#include <QRectF>
-#include <QSizeF>
-#include <QStringList>
 #include <set>
 #include <vector>
 
 class TSPhoto;
 
 /// The one record of the running session: what output is asked for, how the canvas lies over the selected
-/// photo, where the position controls stand, and the items of the strip with their decoded pictures.
+/// photo, where the position controls stand, and the items of the strip with their decoded pictures. Whoever
+/// needs one of these values alone takes that.
 ///
-/// The plain fields are not locked. `canvasFrame` and `photoRatioOfSize` are borrowed by the export thread
-/// for the length of a photo, while a modal sheet keeps the main thread from them; the flags may be polled
-/// from any thread. The list and the cache are locked inside, the list before the cache.
-class TSDataManager {
+/// The plain fields belong to the thread that the record is current on; the flags may be polled from any
+/// thread. The list and the cache are locked inside, the list before the cache.
+class TSDataManager : public TSRequestedOutput, public TSCanvas, public TSPins {
 public:
-    TSDataManager();
-    ~TSDataManager();
-    TSDataManager(const TSDataManager &) = delete;
+    TSDataManager() = default;
+    /// The values and the items as they are now, for one thread to work on: items of its own, no decoded
+    /// pictures, no flag set.
+    TSDataManager(const TSDataManager &other);
     TSDataManager &operator=(const TSDataManager &) = delete;
 
-    /// The current instance: the one made last that still lives, or else one made at the first use.
+    /// The current instance: the calling thread's own, the one made last that still lives, or else one made
+    /// at the first use.
     static TSDataManager *dataManager();
 
-    // The output asked for. `quality` is 0 to 1; the sizes are pixels, `percentage` 50 for half.
-    unsigned type = 0;
-    QString exportFormat;
-    double quality = 0;
-    unsigned resizeWay = TSResizeWay::KeepOriginalSize;
-    double outputWidth = 0;
-    double outputHeight = 0;
-    double percentage = 0;
-    /// One base name a photo, in photo order, without folder and extension.
-    QStringList exportNames;
-    qint64 nameToken = 0;
-    qint64 numberToken = 0;
-    qint64 createdDateToken = 0;
-    qint64 modifiedDateToken = 0;
     std::atomic<bool> isExitExport = false;
-
-    // The geometry of the preview. Rectangles are points of the overlay space, y downward; `canvasFrame` is
-    // the area that stands for the whole photo, and every overlay places itself against it.
-    // `photoRatioOfSize` is points a pixel.
-    unsigned sizeMode = TSSizeMode::Fit;
-    QRectF canvasFrame;
-    QRectF previewFrame;
-    double photoRatioOfSize = 0;
-    QSizeF frameSize{0, 0};
-    bool isCenter = false;
-
-    // The position controls, in position codes.
-    unsigned watermarkAlignmenWay = TSPositionCode::None;
-    unsigned offsetAlignment = TSPositionCode::None;
-    unsigned oldAlignment = TSPositionCode::None;
-    /// Reads as the top left until a selection has been measured; nobody reads it with fewer than two
-    /// selected.
-    unsigned unionFrameAlignment = TSPositionCode::LeftTop;
-    unsigned pUnit = TSOffsetUnit::Percentage;
-
     std::atomic<bool> isSelectedPhotoChanged = false;
     std::atomic<bool> isRemoveAllPhotos = false;
     bool isDragging = false;
@@ -109,6 +76,7 @@ private:
     void leaveItem(Items::iterator place);
     void releaseCacheOfItem(TSImageBrowserItem &item);
 
+    TSCurrentInstance<TSDataManager> m_current{this};
     mutable std::recursive_mutex m_itemsLock;
     mutable std::recursive_mutex m_cacheLock;
     Items m_items;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "session/TSCurrentInstance.h"
+
 #include <memory>
 #include <QList>
 #include <QObject>
@@ -15,9 +17,6 @@ class TSNotificationCenter : public QObject {
     Q_OBJECT
 
 public:
-    TSNotificationCenter();
-    ~TSNotificationCenter() override;
-
     /// The current instance: the one made last that still lives, or else one made at the first use.
     static TSNotificationCenter *defaultCenter();
 
@@ -45,4 +44,7 @@ Q_SIGNALS:
     /// `isDragging` lets listeners skip a refresh that the next drag step would undo; `sender` lets one
     /// ignore its own.
     void overlaysChanged(bool isDragging = false, QObject *sender = nullptr);
+
+private:
+    TSCurrentInstance<TSNotificationCenter> m_current{this};
 };

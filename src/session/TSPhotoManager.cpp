@@ -1,7 +1,5 @@
 #include "session/TSPhotoManager.h"
 
-#include "session/TSCurrentInstance.h"
-
 #include <algorithm>
 
 namespace {
@@ -10,14 +8,13 @@ using Lock = std::lock_guard<std::recursive_mutex>;
 
 } // namespace
 
-TSPhotoManager::TSPhotoManager()
+TSPhotoManager::TSPhotoManager(const TSPhotoManager &other)
 {
-    TSCurrentInstance<TSPhotoManager>::enter(this);
-}
-
-TSPhotoManager::~TSPhotoManager()
-{
-    TSCurrentInstance<TSPhotoManager>::leave(this);
+    const Lock lock(other.m_lock);
+    m_photos.reserve(other.m_photos.size());
+    for (const auto &photo : other.m_photos)
+        m_photos.push_back(std::make_shared<TSPhoto>(*photo));
+    m_selectedPhoto = other.selectedPhoto();
 }
 
 TSPhotoManager *TSPhotoManager::photoManager()

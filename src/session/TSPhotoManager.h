@@ -1,5 +1,6 @@
 #pragma once
 
+#include "session/TSCurrentInstance.h"
 #include "session/TSPhoto.h"
 
 #include <atomic>
@@ -14,12 +15,13 @@
 /// together with the items' lock takes the items' first.
 class TSPhotoManager {
 public:
-    TSPhotoManager();
-    ~TSPhotoManager();
-    TSPhotoManager(const TSPhotoManager &) = delete;
+    TSPhotoManager() = default;
+    /// The list as it is now, with photos of its own, for one thread to work on.
+    TSPhotoManager(const TSPhotoManager &other);
     TSPhotoManager &operator=(const TSPhotoManager &) = delete;
 
-    /// The current instance: the one made last that still lives, or else one made at the first use.
+    /// The current instance: the calling thread's own, the one made last that still lives, or else one made
+    /// at the first use.
     static TSPhotoManager *photoManager();
 
     qint64 photoCount() const;
@@ -43,6 +45,7 @@ public:
     void setSelectedPhoto(qint64 index) { m_selectedPhoto = index; }
 
 private:
+    TSCurrentInstance<TSPhotoManager> m_current{this};
     mutable std::recursive_mutex m_lock;
     std::vector<std::shared_ptr<TSPhoto>> m_photos;
     std::atomic<qint64> m_selectedPhoto = -1;

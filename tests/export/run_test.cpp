@@ -1,9 +1,12 @@
 #include "export/TSExportRun.h"
 #include "export/TSExportTargets.h"
+#include "naming/TSPatternParser.h"
+#include "overlays/TSText.h"
 #include "support/ExportSession.h"
 
 #include <csignal>
 #include <future>
+#include <map>
 #include <QDir>
 #include <QThread>
 #include <sys/resource.h>
@@ -63,8 +66,13 @@ public:
 /// Runs something while it is being drawn.
 class Trap : public TSOverlay {
 public:
+    std::shared_ptr<TSOverlay> copy() const override { return std::shared_ptr<Trap>(new Trap(*this)); }
     void drawIncontext(platform::PaintLayer &) override { whenDrawn(); }
+    Trap() = default;
     std::function<void()> whenDrawn;
+
+protected:
+    Trap(const Trap &) = default;
 };
 
 class RunTest : public ExportTest {
@@ -243,13 +251,10 @@ TEST_F(RunTest, AFailedWriteIsLeftBehind)
         session.data.exportNames = {"a", name, "c"};
         ScriptedHost told;
         told.answer = TSConflictChoice::Replace;
+        // Noise alone takes more than this.
         std::optional<FullDisk> disk;
-        told.whenDone = [&disk, isFullNow = isFull](size_t count) {
-            if (isFullNow && count == 1)
-                disk.emplace(5000);
-            else
-                disk.reset();
-        };
+        if (isFull)
+            disk.emplace(5000);
         TSExportRun each(told);
         each.savePhotos(out);
         ASSERT_EQ(told.outcomes.size(), 3U);
@@ -302,10 +307,13 @@ TEST_F(RunTest, ACancelTakesEffectAtTheNextGate)
 
 TEST_F(RunTest, APausedRunWaits)
 {
-    addPhotos({"a", "b"});
+    addPhotos({"a", "b", "c"});
+    const auto trap = std::make_shared<Trap>();
+    addOverlay(trap);
     std::promise<void> paused;
-    host.whenTipped = [&] {
-        if (host.tips.size() > 1)
+    int drawn = 0;
+    trap->whenDrawn = [&] {
+        if (++drawn != 2)
             return;
         run.isPausing = true;
         paused.set_value();
@@ -313,9 +321,102 @@ TEST_F(RunTest, APausedRunWaits)
     std::thread exporting([this] { run.savePhotos(out); });
     paused.get_future().wait();
     QThread::msleep(60);
-    EXPECT_EQ(files(), words("a.jpg"));
+    EXPECT_FALSE(files().contains("b.jpg"));
     run.isPausing = false;
     exporting.join();
-    EXPECT_EQ(files(), words("a.jpg b.jpg"));
+    EXPECT_EQ(files(), words("a.jpg b.jpg c.jpg"));
     EXPECT_EQ(host.heard, words("close saved:a.jpg"));
+}
+
+/// Of twelve photos two are damaged and two share a name with others, and each has its number on it.
+TEST_F(RunTest, PhotosSideBySideGiveTheFilesOfOneAfterAnother)
+{
+    for (int i = 0; i < 12; ++i)
+        takeIn(session.writePng(QStringLiteral("%1.png").arg(i), noise({300 - 17 * i, 120 + 13 * i})));
+    session.write("3.png", "no picture any more");
+    session.write("7.png", bytesOf(session.path("7.png")).chopped(3000));
+    session.data.exportNames = words("0 1 1 3 4 3 6 7 8 9 10 11");
+    const auto text = std::make_shared<TSText>(QStringLiteral("n"));
+    text->setTextArray(TSPatternParser::words(u"no. {COUNTER}").values);
+    text->setFrame(QRectF(10, 10, 120, 30));
+    addOverlay(text);
+    addMark(QRectF(150, 60, 40, 20));
+    std::map<QString, QByteArray> expected;
+    QString told;
+    for (const int jobs : {1, 2, 5}) {
+        startAnew();
+        ScriptedHost heard;
+        TSExportRun each(heard);
+        each.jobs = jobs;
+        each.savePhotos(out);
+        QString now;
+        for (const TSExportOutcome &outcome : heard.outcomes)
+            now += QStringLiteral("%1 %2\n").arg(outcome.targetPath, outcome.reason);
+        std::map<QString, QByteArray> written;
+        for (const QString &name : files())
+            written[name] = bytesOf(out + u'/' + name);
+        if (jobs == 1) {
+            told = now;
+            expected = written;
+        }
+        EXPECT_TRUE(written == expected) << jobs;
+        EXPECT_EQ(now.toStdString(), told.toStdString());
+    }
+    EXPECT_EQ(expected.size(), 10U);
+    EXPECT_NE(expected["8.jpg"], expected["9.jpg"]);
+}
+
+/// The run has marks and a canvas of its own; what the window paints does not move while it goes on.
+TEST_F(RunTest, TheMarksOnTheScreenStayWhereTheyAre)
+{
+    addPhotos({"a", "b"}, {400, 300});
+    const auto mark = addMark(QRectF(20, 10, 40, 20));
+    const auto trap = std::make_shared<Trap>();
+    addOverlay(trap);
+    int drawn = 0;
+    trap->whenDrawn = [&] {
+        ++drawn;
+        expectRect(mark->frame(), 20, 10, 40, 20);
+        expectRect(session.data.canvasFrame, 0, 0, 400, 300);
+        EXPECT_EQ(session.photos.selectedPhoto(), 0);
+        EXPECT_NE(TSOverlayManager::overlayManager(), &session.overlays);
+        EXPECT_EQ(TSDataManager::dataManager()->canvasFrame.width(), 200);
+    };
+    session.data.resizeWay = TSResizeWay::ByPercentage;
+    session.data.percentage = 50;
+    run.savePhotos(out);
+    EXPECT_EQ(drawn, 2);
+    EXPECT_EQ(TSOverlayManager::overlayManager(), &session.overlays);
+}
+
+TEST_F(RunTest, PhotosOnWhichNoMarkShowsAreNamed)
+{
+    addPhotos({"a", "b"}, {100, 100});
+    const QString gone = addMark(QRectF(20, 10, 40, 20), Qt::green)->imagePath();
+    const auto isWarned = [this](const char *text) {
+        return std::any_of(
+            host.outcomes[0].warnings.begin(), host.outcomes[0].warnings.end(),
+            [text](const QString &warning) { return warning.contains(QLatin1String(text)); });
+    };
+    run.savePhotos(out);
+    EXPECT_TRUE(host.outcomes[0].warnings.isEmpty());
+    QFile::remove(gone);
+    session.cache.clearCache();
+    for (const bool isStrict : {false, true}) {
+        startAnew();
+        host.outcomes.clear();
+        run.isStrict = isStrict;
+        run.savePhotos(out);
+        EXPECT_EQ(host.outcomes[0].status, isStrict ? Status::Failed : Status::Written);
+        EXPECT_TRUE(host.outcomes[0].isUnmarked);
+        EXPECT_TRUE(isWarned("No mark shows"));
+        EXPECT_TRUE(isWarned("green.png") || isWarned("00ff00.png"));
+        EXPECT_EQ(files().isEmpty(), isStrict);
+    }
+    addMark(QRectF(20, 10, 40, 20), Qt::red);
+    addMark(QRectF(20, 10, 40, 20), Qt::blue, 0);
+    host.outcomes.clear();
+    run.savePhotos(out);
+    EXPECT_FALSE(host.outcomes[0].isUnmarked);
+    EXPECT_TRUE(isWarned("00ff00.png"));
 }

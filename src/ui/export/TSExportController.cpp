@@ -33,7 +33,6 @@ QString firstFolder()
 
 TSExportController::TSExportController(QWidget &window) : m_window(window)
 {
-    m_queue.setMaxThreadCount(1);
     m_settings.initSettingsView();
     m_formatWC = new TSFormatWindowController(m_settings, &m_window);
     m_pbWC = new TSProgressBarWindowController(&m_window);
@@ -73,7 +72,8 @@ void TSExportController::abandonRun()
         m_run->isPausing = false;
     }
     m_questions.giveUp();
-    m_queue.waitForDone();
+    if (m_thread.joinable())
+        m_thread.join();
 }
 
 void TSExportController::quitRun()
@@ -140,8 +140,8 @@ void TSExportController::start(const QString &folder)
     m_launcher.show(0);
     m_sleep.hold(qtTrId("ExportInhibit"));
     Q_EMIT TSNotificationCenter::defaultCenter()->TSExportImageNames();
-    m_queue.start([this, folder] {
-        m_run->savePhotos(folder);
+    m_thread = std::thread([this, folder, session = TSRunSession::snapshot()]() mutable {
+        m_run->savePhotos(folder, std::move(session));
         QMetaObject::invokeMethod(this, &TSExportController::end, Qt::QueuedConnection);
     });
 }
@@ -149,6 +149,7 @@ void TSExportController::start(const QString &folder)
 /// The run's own messages have been delivered: they stood in the same queue.
 void TSExportController::end()
 {
+    m_thread.join();
     m_launcher.hide();
     m_sleep.release();
     if (m_pbWC->isVisible())

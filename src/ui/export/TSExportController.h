@@ -12,7 +12,7 @@
 #include <memory>
 #include <QObject>
 #include <QPointer>
-#include <QThreadPool>
+#include <thread>
 
 class QAction;
 class QFileDialog;
@@ -81,5 +81,5 @@ private:
     std::unique_ptr<TSExportRun> m_run;
     bool m_isQuitting = false;
     QString m_folder;
-    QThreadPool m_queue;
+    std::thread m_thread;
 };
