@@ -2,18 +2,13 @@
 
 #include "batch/TSJsonLine.h"
 
+#include <cerrno>
 #include <cmath>
 #include <QStringList>
 
 using Status = TSExportOutcome::Status;
 
 namespace {
-
-void put(std::FILE *to, const QString &line)
-{
-    std::fputs(line.toUtf8().constData(), to);
-    std::fflush(to);
-}
 
 /// Names of files may hold line feeds and what terminals take for commands; each line of ours is to stay one,
 /// and to show what it names.
@@ -80,9 +75,9 @@ void TSBatchReporter::photo(const QString &source, const TSExportOutcome &outcom
     else if (m_form == Form::Terminal)
         progressLine();
     else if (outcome.status == Status::Written || isPlanned)
-        put(stdout, QStringLiteral("%1 -> %2 (%3 x %4)\n")
-                        .arg(visible(source), visible(outcome.targetPath),
-                             QString::number(outcome.size.width()), QString::number(outcome.size.height())));
+        tell(QStringLiteral("%1 -> %2 (%3 x %4)\n")
+                 .arg(visible(source), visible(outcome.targetPath), QString::number(outcome.size.width()),
+                      QString::number(outcome.size.height())));
 }
 
 void TSBatchReporter::untouched(const QString &source, const TSExportOutcome &outcome)
@@ -124,7 +119,7 @@ void TSBatchReporter::jsonLine(const QString &source, const TSExportOutcome &out
             list.append(toJson(mark));
         line.putRaw("marks", u'[' + list.join(u',') + u']');
     }
-    put(stdout, line.text() + u'\n');
+    tell(line.text() + u'\n');
 }
 
 void TSBatchReporter::progressLine()
@@ -132,23 +127,32 @@ void TSBatchReporter::progressLine()
     const qint64 done = m_written + m_skipped + m_failed;
     const double seconds = std::max(0.001, double(m_timer.elapsed()) / 1000);
     const double rate = double(done) / seconds;
-    put(stdout, QStringLiteral("\r\033[K%1 of %2, %3 photos/s, %4 s left")
-                    .arg(done)
-                    .arg(m_count)
-                    .arg(rate, 0, 'f', 1)
-                    .arg(double(m_count - done) / rate, 0, 'f', 0));
+    tell(QStringLiteral("\r\033[K%1 of %2, %3 photos/s, %4 s left")
+             .arg(done)
+             .arg(m_count)
+             .arg(rate, 0, 'f', 1)
+             .arg(double(m_count - done) / rate, 0, 'f', 0));
+}
+
+/// A reader that has gone away wants no more; one that could not take a line has lost it.
+void TSBatchReporter::tell(const QString &line)
+{
+    errno = 0;
+    if ((std::fputs(line.toUtf8().constData(), stdout) == EOF || std::fflush(stdout) == EOF) &&
+        errno != EPIPE)
+        m_isReportLost = true;
 }
 
 void TSBatchReporter::clearProgressLine()
 {
     if (m_form == Form::Terminal)
-        put(stdout, QStringLiteral("\r\033[K"));
+        tell(QStringLiteral("\r\033[K"));
 }
 
 void TSBatchReporter::warning(const QString &text)
 {
     clearProgressLine();
-    put(stderr, QStringLiteral("tessaro-batch: %1\n").arg(visible(text)));
+    std::fputs(QStringLiteral("tessaro-batch: %1\n").arg(visible(text)).toUtf8().constData(), stderr);
 }
 
 QString TSBatchReporter::summary() const
@@ -164,13 +168,15 @@ void TSBatchReporter::end()
 {
     clearProgressLine();
     if (m_form != Form::Json) {
-        put(stdout, summary());
-        return;
+        tell(summary());
+    } else {
+        TSJsonLine line;
+        line.put("written", m_written)
+            .put("skipped", m_skipped)
+            .put("failed", m_failed)
+            .put("ms", m_timer.elapsed());
+        tell(line.text() + u'\n');
     }
-    TSJsonLine line;
-    line.put("written", m_written)
-        .put("skipped", m_skipped)
-        .put("failed", m_failed)
-        .put("ms", m_timer.elapsed());
-    put(stdout, line.text() + u'\n');
+    if (m_isReportLost)
+        warning(QStringLiteral("the report could not be written to standard output"));
 }

@@ -27,13 +27,14 @@ public:
     void warning(const QString &text);
     void end();
 
-    /// Whether every photo so far was written, or would have been.
-    bool isComplete() const { return m_unwritten == 0; }
+    /// Whether every photo so far was written, or would have been, and all of it was told.
+    bool isComplete() const { return m_unwritten == 0 && !m_isReportLost; }
 
 private:
     void count(const TSExportOutcome &outcome);
     void jsonLine(const QString &source, const TSExportOutcome &outcome,
                   const std::optional<std::vector<TSMarkPlacement>> &marks);
+    void tell(const QString &line);
     void progressLine();
     void clearProgressLine();
     QString summary() const;
@@ -45,4 +46,5 @@ private:
     qint64 m_skipped = 0;
     qint64 m_failed = 0;
     qint64 m_unwritten = 0;
+    bool m_isReportLost = false;
 };
