@@ -186,8 +186,9 @@ void TSBatchMarkBuilder::writeRows(TSOverlay &overlay, const TSBatchMark &mark)
         overlay.appendRow();
         if (!asFractions || photo->photoSize.isEmpty())
             continue;
-        QRectF &ratio = overlay.ratioOfFrameByAlignmentArray.back();
-        ratio.moveTopLeft(
-            {mark.offset.x() / photo->photoSize.width(), mark.offset.y() / photo->photoSize.height()});
+        const QPointF share(mark.offset.x() / photo->photoSize.width(),
+                            mark.offset.y() / photo->photoSize.height());
+        overlay.rows().change(overlay.rows().count() - 1,
+                              [&share](TSRow &row) { row.ratioOfFrameByAlignment.moveTopLeft(share); });
     }
 }

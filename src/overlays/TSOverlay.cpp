@@ -1,6 +1,5 @@
 #include "overlays/TSOverlay.h"
 
-#include "overlays/TSRows.h"
 #include "platform/KeyedArchiver.h"
 #include "platform/KeyedUnarchiver.h"
 #include "session/TSPhotoManager.h"
@@ -38,10 +37,9 @@ TSOverlay::TSOverlay(platform::KeyedUnarchiver &coder) : TSOverlay()
     m_oldYPixel = double(coder.decodeFloat(u"oldYPixel"));
     m_frame = coder.decodeRect(u"frame");
     const qint64 photos = TSPhotoManager::photoManager()->photoCount();
-    for (qint64 i = 0; i < photos; ++i) {
-        TSOverlay::appendRow();
-        oldRatioOfFrameByAlignmentArray.push_back(m_oldRatioOfFrameByAlignment);
-    }
+    for (qint64 i = 0; i < photos; ++i)
+        appendRow();
+    m_rows.changeAll([this](TSRow &row) { row.oldRatioOfFrameByAlignment = m_oldRatioOfFrameByAlignment; });
     // Of the stored frame only the shape counts: the frame is made anew for the canvas of today.
     updateFrameByAlignmentRatio(false);
 }
@@ -71,47 +69,23 @@ void TSOverlay::encodeWithCoder(platform::KeyedArchiver &coder) const
 
 void TSOverlay::appendRow()
 {
-    ratioOfFrameByAlignmentArray.push_back(m_ratioOfFrameByAlignment);
-    xPixelArray.push_back(float(m_xPixel));
-    yPixelArray.push_back(float(m_yPixel));
-    wmAlignmentArray.push_back(m_wmAlignment);
-    angleArray.push_back(float(m_angle));
-}
-
-void TSOverlay::insertRowCopy(qint64 position, qint64 copied)
-{
-    TSInsertRowCopy(ratioOfFrameByAlignmentArray, position, copied);
-    TSInsertRowCopy(xPixelArray, position, copied);
-    TSInsertRowCopy(yPixelArray, position, copied);
-    TSInsertRowCopy(wmAlignmentArray, position, copied);
-    TSInsertRowCopy(angleArray, position, copied);
-}
-
-void TSOverlay::removeRow(qint64 position)
-{
-    TSRemoveRow(ratioOfFrameByAlignmentArray, position);
-    TSRemoveRow(xPixelArray, position);
-    TSRemoveRow(yPixelArray, position);
-    TSRemoveRow(wmAlignmentArray, position);
-    TSRemoveRow(angleArray, position);
-}
-
-void TSOverlay::moveRow(qint64 from, qint64 to)
-{
-    TSMoveRow(ratioOfFrameByAlignmentArray, from, to);
-    TSMoveRow(xPixelArray, from, to);
-    TSMoveRow(yPixelArray, from, to);
-    TSMoveRow(wmAlignmentArray, from, to);
-    TSMoveRow(angleArray, from, to);
+    TSRow row{
+        m_ratioOfFrameByAlignment, {}, float(m_xPixel), float(m_yPixel), m_wmAlignment, float(m_angle), {}};
+    writeTextRow(row);
+    m_rows.append(row);
 }
 
 void TSOverlay::loadRow(qint64 position)
 {
-    TSLoadRow(ratioOfFrameByAlignmentArray, position, m_ratioOfFrameByAlignment);
-    TSLoadRow(xPixelArray, position, m_xPixel);
-    TSLoadRow(yPixelArray, position, m_yPixel);
-    TSLoadRow(wmAlignmentArray, position, m_wmAlignment);
-    TSLoadRow(angleArray, position, m_angle);
+    const TSRow *row = m_rows.at(position);
+    if (!row)
+        return;
+    m_ratioOfFrameByAlignment = row->ratioOfFrameByAlignment;
+    m_xPixel = double(row->xPixel);
+    m_yPixel = double(row->yPixel);
+    m_wmAlignment = row->wmAlignment;
+    m_angle = double(row->angle);
+    readTextRow(*row);
 }
 
 QPointF TSOverlay::convertPoint(const QPointF &point) const

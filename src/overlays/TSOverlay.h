@@ -1,5 +1,6 @@
 #pragma once
 
+#include "overlays/TSRows.h"
 #include "overlays/TSShadow.h"
 #include "overlays/TSTracker.h"
 #include "session/TSPositionCode.h"
@@ -25,7 +26,7 @@ class PaintLayer;
 /// `updateOffsetPixel`, follow it, in this order; when the canvas changes, `frame` is rebuilt from one of the
 /// two forms.
 ///
-/// The arrays hold one row a photo. Setters only store. The operations read the session's `canvasFrame` and
+/// Setters only store. The operations read the session's `canvasFrame` and
 /// `photoRatioOfSize`; one thread at a time, main or export.
 class TSOverlay : public platform::Archivable {
 public:
@@ -70,23 +71,13 @@ public:
     const QRectF &oldFrame() const { return m_oldFrame; }
     void setOldFrame(const QRectF &frame) { m_oldFrame = frame; }
 
-    std::vector<QRectF> ratioOfFrameByAlignmentArray;
-    std::vector<QRectF> oldRatioOfFrameByAlignmentArray;
-    std::vector<float> xPixelArray;
-    std::vector<float> yPixelArray;
-    std::vector<unsigned> wmAlignmentArray;
-    std::vector<float> angleArray;
-
-    // The rows follow the photo list. Positions out of range change nothing.
+    /// One row a photo, which follow the photo list.
+    TSRows &rows() { return m_rows; }
+    const TSRows &rows() const { return m_rows; }
     /// One more row with the present values of the plain fields.
-    virtual void appendRow();
-    /// A copy of a row comes to stand at a position.
-    virtual void insertRowCopy(qint64 position, qint64 copied);
-    virtual void removeRow(qint64 position);
-    /// Before the row that stood at `to`, counted before the move.
-    virtual void moveRow(qint64 from, qint64 to);
-    /// Reads a row into the plain fields; `frame` waits for a rebuild.
-    virtual void loadRow(qint64 position);
+    void appendRow();
+    /// Reads a row into the plain fields; `frame` waits for a rebuild. A row that is missing changes nothing.
+    void loadRow(qint64 position);
 
     // Between overlay space and the overlay's own, turned back about its middle. Rectangles become the box
     // around the turned one.
@@ -125,14 +116,17 @@ public:
 protected:
     TSOverlay(const TSOverlay &other);
 
-    /// What a Script text writes in place of its ratio and anchor.
-    virtual void writeScriptRow(qint64) {}
+    // What only a text has of its own on each photo.
+    virtual void writeTextRow(TSRow &) const {}
+    virtual void readTextRow(const TSRow &) {}
 
 private:
     QSizeF sizeByRatio() const;
     void placeByOffset(const QPointF &offset);
     unsigned nearestAlignment() const;
-    void writePlacementRow(qint64 position);
+    template <typename Change>
+    void changeRows(const Change &apply);
+    void writePlacement(TSRow &row) const;
 
     double m_angle = 0;
     double m_opacity = 0.8;
@@ -151,4 +145,5 @@ private:
     QRectF m_centerRatioOfFrame;
     QRectF m_oldRatioOfFrameByAlignment;
     QRectF m_oldFrame;
+    TSRows m_rows;
 };

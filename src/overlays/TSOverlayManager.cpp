@@ -161,19 +161,19 @@ bool TSOverlayManager::hasShadowEffect() const
 void TSOverlayManager::photoWillJoin(qint64 position, qint64 selectedPhoto)
 {
     for (const auto &overlay : m_overlays)
-        overlay->insertRowCopy(position, selectedPhoto);
+        overlay->rows().insertCopy(position, selectedPhoto);
 }
 
 void TSOverlayManager::photoWasRemoved(qint64 position)
 {
     for (const auto &overlay : m_overlays)
-        overlay->removeRow(position);
+        overlay->rows().remove(position);
 }
 
 void TSOverlayManager::photoWasMoved(qint64 from, qint64 to)
 {
     for (const auto &overlay : m_overlays)
-        overlay->moveRow(from, to);
+        overlay->rows().move(from, to);
 }
 
 void TSOverlayManager::allPhotosWereRemoved()

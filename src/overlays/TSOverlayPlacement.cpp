@@ -1,6 +1,5 @@
 #include "overlays/TSAnchor.h"
 #include "overlays/TSOverlay.h"
-#include "overlays/TSRows.h"
 #include "session/TSDataManager.h"
 #include "session/TSDefaults.h"
 #include "session/TSPhotoManager.h"
@@ -49,6 +48,16 @@ unsigned TSOverlay::nearestAlignment() const
     return nearest;
 }
 
+/// Those of all photos in Batch, that of the photo on the canvas in Adjust.
+template <typename Change>
+void TSOverlay::changeRows(const Change &apply)
+{
+    if (TSIsBatchControlOverlay())
+        m_rows.changeAll(apply);
+    else
+        m_rows.change(TSPhotoManager::photoManager()->selectedPhoto(), apply);
+}
+
 void TSOverlay::updateAlignmentAndRatio()
 {
     m_wmAlignment = nearestAlignment();
@@ -61,25 +70,18 @@ void TSOverlay::updateAlignmentAndRatio()
     const QPointF offset = TSAnchorOfRect(m_wmAlignment, m_frame) - TSAnchorOfRect(m_wmAlignment, c);
     m_ratioOfFrameByAlignment = QRectF(offset.x() / c.width(), offset.y() / c.height(),
                                        m_frame.width() / c.width(), m_frame.height() / c.height());
-    if (ratioOfFrameByAlignmentArray.empty() || wmAlignmentArray.empty())
-        return;
-    if (!TSIsBatchControlOverlay()) {
-        writePlacementRow(TSPhotoManager::photoManager()->selectedPhoto());
-        return;
-    }
-    for (qint64 row = 0; row < qint64(xPixelArray.size()); ++row)
-        writePlacementRow(row);
+    changeRows([this](TSRow &row) { writePlacement(row); });
 }
 
-void TSOverlay::writePlacementRow(qint64 position)
+void TSOverlay::writePlacement(TSRow &row) const
 {
     if (isScript()) {
-        writeScriptRow(position);
+        writeTextRow(row);
     } else {
-        TSStoreRow(ratioOfFrameByAlignmentArray, position, m_ratioOfFrameByAlignment);
-        TSStoreRow(wmAlignmentArray, position, m_wmAlignment);
+        row.ratioOfFrameByAlignment = m_ratioOfFrameByAlignment;
+        row.wmAlignment = m_wmAlignment;
     }
-    TSStoreRow(angleArray, position, float(m_angle));
+    row.angle = float(m_angle);
 }
 
 void TSOverlay::updateOffsetPixel()
@@ -94,18 +96,12 @@ void TSOverlay::updateOffsetPixel()
     // placement.
     m_xPixel /= pointsPerPixel();
     m_yPixel /= pointsPerPixel();
-    if (xPixelArray.empty() || yPixelArray.empty() || isScript())
+    if (isScript())
         return;
-    const auto write = [this](qint64 row) {
-        TSStoreRow(xPixelArray, row, float(m_xPixel));
-        TSStoreRow(yPixelArray, row, float(m_yPixel));
-    };
-    if (!TSIsBatchControlOverlay()) {
-        write(TSPhotoManager::photoManager()->selectedPhoto());
-        return;
-    }
-    for (qint64 row = 0; row < qint64(xPixelArray.size()); ++row)
-        write(row);
+    changeRows([this](TSRow &row) {
+        row.xPixel = float(m_xPixel);
+        row.yPixel = float(m_yPixel);
+    });
 }
 
 /// Only the height's share counts; the width comes from the shape of the frame, so that a text that has grown

@@ -40,8 +40,7 @@ void TSOverlaySynchronisation::updateOverlaysRatioPixelAlignmentAfterPhotoChange
     if (index < 0)
         return;
     for (const auto &overlay : allOverlays())
-        if (!overlay->ratioOfFrameByAlignmentArray.empty())
-            overlay->loadRow(index);
+        overlay->loadRow(index);
 }
 
 void TSOverlaySynchronisation::updateOverlaysFrameByAlignmentRatio(bool isTokenName)

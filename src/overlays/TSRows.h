@@ -1,55 +1,39 @@
 #pragma once
 
-#include <algorithm>
-#include <QtGlobal>
-#include <vector>
+#include "overlays/TSRow.h"
 
-/// What happens to the rows of one value when the photo list changes. Rows can be missing, when photos have
-/// left behind the overlays' back. Rows that are not there are neither copied nor changed, and a new one is
-/// put behind the last at most.
+#include <QList>
 
-template <typename T>
-bool TSHasRow(const std::vector<T> &rows, qint64 position)
-{
-    return position >= 0 && position < qint64(rows.size());
-}
+/// One row a photo, in step with the photo list. A copy shares the rows until either changes. Rows can be
+/// missing, when photos have left behind the overlays' back: rows that are not there are neither copied nor
+/// changed, and a new one is put behind the last at most.
+class TSRows {
+public:
+    bool isEmpty() const { return m_rows.isEmpty(); }
+    qint64 count() const { return m_rows.size(); }
+    /// Nothing for a row that is missing.
+    const TSRow *at(qint64 position) const;
 
-template <typename T>
-void TSInsertRowCopy(std::vector<T> &rows, qint64 position, qint64 copied)
-{
-    if (!TSHasRow(rows, copied) || position < 0)
-        return;
-    const T row = rows[size_t(copied)];
-    rows.insert(rows.begin() + std::min(position, qint64(rows.size())), row);
-}
+    void append(const TSRow &row) { m_rows.append(row); }
+    /// A copy of a row comes to stand at a position.
+    void insertCopy(qint64 position, qint64 copied);
+    void remove(qint64 position);
+    /// Before the row that stood at `to`, counted before the move.
+    void move(qint64 from, qint64 to);
+    /// Changes a row; a change is something that is called with a `TSRow &`.
+    template <typename Change>
+    void change(qint64 position, const Change &apply)
+    {
+        if (at(position))
+            apply(m_rows[position]);
+    }
+    template <typename Change>
+    void changeAll(const Change &apply)
+    {
+        for (TSRow &row : m_rows)
+            apply(row);
+    }
 
-template <typename T>
-void TSRemoveRow(std::vector<T> &rows, qint64 position)
-{
-    if (TSHasRow(rows, position))
-        rows.erase(rows.begin() + position);
-}
-
-/// Inserts a copy where it is to stand, then removes the original, which may have moved on by the insertion.
-template <typename T>
-void TSMoveRow(std::vector<T> &rows, qint64 from, qint64 to)
-{
-    if (!TSHasRow(rows, from) || to < 0 || to > qint64(rows.size()))
-        return;
-    TSInsertRowCopy(rows, to, from);
-    TSRemoveRow(rows, from >= to ? from + 1 : from);
-}
-
-template <typename T>
-void TSStoreRow(std::vector<T> &rows, qint64 position, const T &value)
-{
-    if (TSHasRow(rows, position))
-        rows[size_t(position)] = value;
-}
-
-template <typename T, typename Field>
-void TSLoadRow(const std::vector<T> &rows, qint64 position, Field &field)
-{
-    if (TSHasRow(rows, position))
-        field = Field(rows[size_t(position)]);
-}
+private:
+    QList<TSRow> m_rows;
+};

@@ -1,6 +1,5 @@
 #include "overlays/TSText.h"
 
-#include "overlays/TSRows.h"
 #include "overlays/TSWildcards.h"
 #include "platform/PaintLayer.h"
 #include "session/TSDataManager.h"
@@ -76,45 +75,6 @@ std::shared_ptr<TSOverlay> TSText::copy() const
         if (auto *token = std::get_if<std::shared_ptr<TSToken>>(&value))
             *token = (*token)->copy();
     return text;
-}
-
-void TSText::appendRow()
-{
-    TSOverlay::appendRow();
-    scriptOriginArray.push_back(m_scriptOrigin);
-}
-
-void TSText::insertRowCopy(qint64 position, qint64 copied)
-{
-    TSOverlay::insertRowCopy(position, copied);
-    TSInsertRowCopy(scriptOriginArray, position, copied);
-}
-
-void TSText::removeRow(qint64 position)
-{
-    TSOverlay::removeRow(position);
-    TSRemoveRow(scriptOriginArray, position);
-    if (isScript())
-        TSRemoveRow(oldRatioOfFrameByAlignmentArray, position);
-}
-
-void TSText::moveRow(qint64 from, qint64 to)
-{
-    TSOverlay::moveRow(from, to);
-    TSMoveRow(scriptOriginArray, from, to);
-    if (isScript())
-        TSMoveRow(oldRatioOfFrameByAlignmentArray, from, to);
-}
-
-void TSText::loadRow(qint64 position)
-{
-    TSOverlay::loadRow(position);
-    TSLoadRow(scriptOriginArray, position, m_scriptOrigin);
-}
-
-void TSText::writeScriptRow(qint64 position)
-{
-    TSStoreRow(scriptOriginArray, position, m_scriptOrigin);
 }
 
 QSizeF TSText::naturalSize() const

@@ -71,13 +71,6 @@ public:
     const platform::AttributedString &textStorage() const { return m_textStorage; }
     void setTextStorage(const platform::AttributedString &text) { m_textStorage = text; }
 
-    std::vector<QPointF> scriptOriginArray;
-    void appendRow() override;
-    void insertRowCopy(qint64 position, qint64 copied) override;
-    void removeRow(qint64 position) override;
-    void moveRow(qint64 from, qint64 to) override;
-    void loadRow(qint64 position) override;
-
     /// The size of the laid-out text at its font sizes. Never lower than a line; the width of an empty text
     /// is that of its margins.
     QSizeF naturalSize() const;
@@ -101,7 +94,8 @@ public:
 
 protected:
     TSText(const TSText &other);
-    void writeScriptRow(qint64 position) override;
+    void writeTextRow(TSRow &row) const override { row.scriptOrigin = m_scriptOrigin; }
+    void readTextRow(const TSRow &row) override { m_scriptOrigin = row.scriptOrigin; }
 
 private:
     void setShadowOn(platform::PaintLayer &context) const;

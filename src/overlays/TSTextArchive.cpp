@@ -3,7 +3,6 @@
 #include "overlays/TSText.h"
 #include "platform/KeyedArchiver.h"
 #include "platform/KeyedUnarchiver.h"
-#include "session/TSPhotoManager.h"
 
 // The archive of `TSText`. The picture and the layout are not part of it; they are made anew at the first
 // draw.
@@ -65,7 +64,7 @@ TSText::TSText(platform::KeyedUnarchiver &coder) : TSOverlay(coder)
     m_limitRectRatio = coder.decodeRect(u"limitRectRatio");
     m_textStorage =
         coder.decodeObject(u"textStorage").toAttributedString().value_or(platform::AttributedString());
-    scriptOriginArray.assign(size_t(TSPhotoManager::photoManager()->photoCount()), m_scriptOrigin);
+    rows().changeAll([this](TSRow &row) { writeTextRow(row); });
 }
 
 QStringList TSText::classChain() const

@@ -64,11 +64,11 @@ TEST_F(OverlayArchiveTest, PlaceComesBackNarrowedAndOnTheCanvasOfTheDay)
     expectRect(back->centerRatioOfFrame(), 0.1, 0.2, 0.3, 0.4);
     expectRect(back->oldRatioOfFrameByAlignment(), 0.5, 0.6, 0.7, 0.8);
     expectRect(back->frame(), 295, 5, 100, 50);
-    ASSERT_EQ(back->ratioOfFrameByAlignmentArray.size(), 2u);
-    expectRect(back->ratioOfFrameByAlignmentArray[1], overlay->ratioOfFrameByAlignment());
-    EXPECT_EQ(back->xPixelArray, (std::vector<float>{-10.1f, -10.1f}));
-    EXPECT_EQ(back->wmAlignmentArray, (std::vector<unsigned>{2, 2}));
-    EXPECT_EQ(back->angleArray, (std::vector<float>{0.1f, 0.1f}));
+    ASSERT_EQ(back->rows().count(), 2);
+    expectRect(back->rows().at(1)->ratioOfFrameByAlignment, overlay->ratioOfFrameByAlignment());
+    EXPECT_EQ(valuesOf(*back, &TSRow::xPixel), (std::vector<float>{-10.1f, -10.1f}));
+    EXPECT_EQ(valuesOf(*back, &TSRow::wmAlignment), (std::vector<unsigned>{2, 2}));
+    EXPECT_EQ(valuesOf(*back, &TSRow::angle), (std::vector<float>{0.1f, 0.1f}));
 }
 
 TEST_F(OverlayArchiveTest, TextComesBackWithItsTokensAndLook)
@@ -104,7 +104,7 @@ TEST_F(OverlayArchiveTest, TextComesBackWithItsTokensAndLook)
     EXPECT_EQ(back->glowBlur(), double(3.3f));
     EXPECT_EQ(back->tileHeight(), double(60.7f));
     EXPECT_TRUE(back->isScript());
-    EXPECT_EQ(back->scriptOriginArray, std::vector<QPointF>(3, {0.25, -0.75}));
+    EXPECT_EQ(valuesOf(*back, &TSRow::scriptOrigin), std::vector<QPointF>(3, {0.25, -0.75}));
     expectRect(back->limitRectRatio(), 0.1, 0.2, 0.3, 0.4);
     EXPECT_EQ(back->lineCounts(), 2);
     back->setTextType(TSTextType::Plain);

@@ -150,10 +150,12 @@ TEST_F(PlacementTest, RowsFollowInBatchAndInAdjust)
         overlay.setFrame({590, 10, 200, 100});
         overlay.setAngle(0.1);
         measure(overlay);
-        EXPECT_EQ(overlay.angleArray, (std::vector<float>{isBatch ? 0.1f : 0, 0.1f, isBatch ? 0.1f : 0}));
-        EXPECT_EQ(overlay.wmAlignmentArray, (std::vector<unsigned>{isBatch ? 2u : 9u, 2, isBatch ? 2u : 9u}));
-        EXPECT_EQ(overlay.ratioOfFrameByAlignmentArray[0].width(), isBatch ? 0.25 : 0);
-        EXPECT_EQ(overlay.xPixelArray[2], isBatch ? float(-10.0 / 3) : 0);
+        EXPECT_EQ(valuesOf(overlay, &TSRow::angle),
+                  (std::vector<float>{isBatch ? 0.1f : 0, 0.1f, isBatch ? 0.1f : 0}));
+        EXPECT_EQ(valuesOf(overlay, &TSRow::wmAlignment),
+                  (std::vector<unsigned>{isBatch ? 2u : 9u, 2, isBatch ? 2u : 9u}));
+        EXPECT_EQ(overlay.rows().at(0)->ratioOfFrameByAlignment.width(), isBatch ? 0.25 : 0);
+        EXPECT_EQ(overlay.rows().at(2)->xPixel, isBatch ? float(-10.0 / 3) : 0);
         overlay.loadRow(1);
         EXPECT_EQ(overlay.angle(), double(0.1f)) << "rows are 32 bits wide";
         EXPECT_EQ(overlay.xPixel(), double(float(-10.0 / 3)));
@@ -170,18 +172,18 @@ TEST_F(PlacementTest, ScriptTextHasNoPlaceButItsOriginAndAngle)
     text.setFrame({10, 20, 200, 100});
     text.updateAlignmentAndRatio();
     giveRows(text, 2);
-    const QRectF ratio = text.ratioOfFrameByAlignmentArray[0];
+    const QRectF ratio = text.rows().at(0)->ratioOfFrameByAlignment;
     text.setTextType(TSTextType::Script);
     text.setScriptOrigin({0.5, -0.25});
     text.setAngle(0.7);
     text.setFrame({500, 400, 20, 10});
     measure(text);
-    expectRect(text.ratioOfFrameByAlignmentArray[0], ratio);
-    EXPECT_EQ(text.wmAlignmentArray[0], 0u);
-    EXPECT_EQ(text.xPixelArray[0], 0.0f);
-    EXPECT_EQ(text.scriptOriginArray[0], QPointF(0.5, -0.25));
-    EXPECT_EQ(text.scriptOriginArray[1], QPointF(0, 0)) << "the other photo's row in Adjust";
-    EXPECT_EQ(text.angleArray[0], 0.7f);
+    expectRect(text.rows().at(0)->ratioOfFrameByAlignment, ratio);
+    EXPECT_EQ(text.rows().at(0)->wmAlignment, 0u);
+    EXPECT_EQ(text.rows().at(0)->xPixel, 0.0f);
+    EXPECT_EQ(text.rows().at(0)->scriptOrigin, QPointF(0.5, -0.25));
+    EXPECT_EQ(text.rows().at(1)->scriptOrigin, QPointF(0, 0)) << "the other photo's row in Adjust";
+    EXPECT_EQ(text.rows().at(0)->angle, 0.7f);
     session.setCanvas({5, 6, 70, 80});
     text.updateFrameByAlignmentRatio(false);
     expectRect(text.frame(), 5, 6, 70, 80);

@@ -44,16 +44,16 @@ TEST_F(CreationTest, ANewOverlayIsSelectedAndHasARowForEveryPhoto)
         const auto text = preview.selection().editingText();
         ASSERT_TRUE(text);
         EXPECT_EQ(session.overlays.overlayAtIndex(0), text);
-        EXPECT_EQ(text->scriptOriginArray.size(), 3u);
-        EXPECT_EQ(text->wmAlignmentArray, std::vector<unsigned>(3, 8u));
+        EXPECT_EQ(text->rows().count(), 3);
+        EXPECT_EQ(valuesOf(*text, &TSRow::wmAlignment), std::vector<unsigned>(3, 8u));
         const QPointF expected((1000 - text->frame().width()) / 2, (800 - text->frame().height()) / 2);
         const double step = isBatch ? 0 : 2;
         expectNear(text->frame().topLeft(), expected + QPointF(step, step));
-        EXPECT_EQ(text->yPixelArray, std::vector<float>(3, float(text->yPixel())));
+        EXPECT_EQ(valuesOf(*text, &TSRow::yPixel), std::vector<float>(3, float(text->yPixel())));
     }
     const auto unread = addSticker(QStringLiteral("/no/such.png"), true);
     EXPECT_EQ(unread->frame(), QRectF());
-    EXPECT_EQ(unread->angleArray.size(), 3u);
+    EXPECT_EQ(unread->rows().count(), 3);
     EXPECT_EQ(dynamic_cast<TSImage &>(*unread).oldPath(), QStringLiteral("/no/such.png"));
     preview.presenter().showFrameAtIndex(-1);
     preview.creation().createNewText();

@@ -37,9 +37,9 @@ TEST_F(DraggingTest, AMoveTakesAllAlongAndMeasuresThemAgain)
     expectRect(member->frame(), 300.25, 400, 50, 50);
     // The union (0.25, 200, 350, 250) is nearest to the canvas's left middle, and pins both.
     EXPECT_EQ(session.data.unionFrameAlignment, 7u);
-    EXPECT_EQ(named['G']->wmAlignmentArray.front(), 7u);
-    EXPECT_EQ(lead->xPixelArray.front(), -99.75f);
-    EXPECT_EQ(named['G']->yPixelArray.front(), 25.0f);
+    EXPECT_EQ(named['G']->rows().at(0)->wmAlignment, 7u);
+    EXPECT_EQ(lead->rows().at(0)->xPixel, -99.75f);
+    EXPECT_EQ(named['G']->rows().at(0)->yPixel, 25.0f);
     EXPECT_EQ(session.data.oldAlignment, TSPositionCode::None);
     EXPECT_TRUE(session.data.isDragging);
 
@@ -161,7 +161,7 @@ TEST_F(DraggingTest, AScriptTextShiftsItsPattern)
         press({500, 400});
         drag(QPointF(500, 400) + delta);
         expectNear(text->scriptOrigin(), origin, 1e-6);
-        EXPECT_EQ(text->scriptOriginArray.front(), text->scriptOrigin());
+        EXPECT_EQ(text->rows().at(0)->scriptOrigin, text->scriptOrigin());
         EXPECT_FALSE(session.data.isDragging);
     }
 }

@@ -146,7 +146,7 @@ TEST_F(ProfileTest, ALayoutKeepsItsPlaceOnAnotherCanvasAndInAnotherFolder)
     const auto image = std::dynamic_pointer_cast<TSImage>(session.overlays.overlayAtIndex(0));
     ASSERT_TRUE(image);
     expectRect(image->frame(), 350, 5, 40, 20);
-    EXPECT_EQ(image->ratioOfFrameByAlignmentArray.size(), 3u);
+    EXPECT_EQ(image->rows().count(), 3);
     EXPECT_EQ(image->imagePath(), moved + "/Stickers/Stickers_0.png");
     EXPECT_TRUE(session.overlays.overlayAtIndex(1)->isScript());
     EXPECT_TRUE(TSIsBatchControlOverlay());

@@ -202,7 +202,7 @@ TEST_F(PhotoIntakeTest, NewPhotosTakeTheSelectedPhotosRow)
     session.photos.setSelectedPhoto(2);
     const auto selected = session.photos.photoAtIndex(2);
     m_intake.addItemsWithURLs({writePhoto(QStringLiteral("end.jpg"))}, false);
-    EXPECT_EQ(overlay->xPixelArray, (std::vector<float>{0, 1, 2, 2}));
+    EXPECT_EQ(valuesOf(*overlay, &TSRow::xPixel), (std::vector<float>{0, 1, 2, 2}));
 
     m_intake.insertAtIndex = 1;
     m_intake.addItemsWithURLs({writePhoto(QStringLiteral("i.jpg")), writePhoto(QStringLiteral("j.jpg"))},
@@ -211,12 +211,12 @@ TEST_F(PhotoIntakeTest, NewPhotosTakeTheSelectedPhotosRow)
     EXPECT_EQ(m_intake.insertAtIndex, 3);
     EXPECT_EQ(session.photos.photoAtIndex(4), selected);
     EXPECT_EQ(session.photos.selectedPhoto(), 4);
-    EXPECT_EQ(overlay->xPixelArray.size(), 6u);
-    EXPECT_EQ(overlay->xPixelArray[1], 2.0f);
-    EXPECT_EQ(overlay->xPixelArray[2], 2.0f);
+    EXPECT_EQ(overlay->rows().count(), 6);
+    EXPECT_EQ(overlay->rows().at(1)->xPixel, 2.0f);
+    EXPECT_EQ(overlay->rows().at(2)->xPixel, 2.0f);
 
     session.data.removePhotoAtIndex(5);
     m_intake.addItemsWithURLs({writePhoto(QStringLiteral("late.jpg"))}, false);
-    EXPECT_EQ(overlay->xPixelArray.size(), 7u) << "stray rows stay where they are";
-    EXPECT_EQ(overlay->xPixelArray.back(), overlay->xPixelArray[4]);
+    EXPECT_EQ(overlay->rows().count(), 7) << "stray rows stay where they are";
+    EXPECT_EQ(overlay->rows().at(overlay->rows().count() - 1)->xPixel, overlay->rows().at(4)->xPixel);
 }

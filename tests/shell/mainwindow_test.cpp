@@ -329,7 +329,7 @@ TEST_F(MainWindowTest, MarksAreWorkedOnByKeysAlone)
     key(Qt::Key_Right);
     key(Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_NEAR(mark->angle(), 11 * degree, 1e-6);
-    EXPECT_NEAR(mark->angleArray.front(), 11 * degree, 1e-6);
+    EXPECT_NEAR(mark->rows().at(0)->angle, 11 * degree, 1e-6);
     for (int turn = 0; turn < 12; ++turn)
         key(Qt::Key_Left);
     EXPECT_NEAR(mark->angle(), 359 * degree, 1e-6);
@@ -337,7 +337,7 @@ TEST_F(MainWindowTest, MarksAreWorkedOnByKeysAlone)
     key(Qt::Key_Up, Qt::ControlModifier | Qt::ShiftModifier);
     key(Qt::Key_Down);
     expectRect(mark->frame(), {before.topLeft(), before.size() + QSizeF(9 * step, 4.5 * step)});
-    EXPECT_NEAR(mark->ratioOfFrameByAlignmentArray.front().height(),
+    EXPECT_NEAR(mark->rows().at(0)->ratioOfFrameByAlignment.height(),
                 mark->frame().height() / session.data.canvasFrame.height(), 1e-6);
 
     window().addTextAction->trigger();
@@ -358,7 +358,7 @@ TEST_F(MainWindowTest, MarksAreWorkedOnByKeysAlone)
     key(Qt::Key_Left, {});
     key(Qt::Key_Down, {});
     expectNear(script->scriptOrigin(), {-0.05, 0.05}, 1e-6);
-    EXPECT_EQ(script->scriptOriginArray.front(), script->scriptOrigin());
+    EXPECT_EQ(script->rows().at(0)->scriptOrigin, script->scriptOrigin());
 
     int told = 0;
     QObject::connect(&session.center, &TSNotificationCenter::TSChangeWatermarkPostion, [&told] { ++told; });

@@ -73,6 +73,16 @@ public:
     }
 };
 
+/// One value of all rows of an overlay.
+template <typename T>
+std::vector<T> valuesOf(const TSOverlay &overlay, T TSRow::*field)
+{
+    std::vector<T> values;
+    for (qint64 i = 0; i < overlay.rows().count(); ++i)
+        values.push_back(overlay.rows().at(i)->*field);
+    return values;
+}
+
 class SessionTest : public testing::Test {
 protected:
     Session session;
