@@ -133,9 +133,8 @@ TSExportRun::Step TSExportRun::saveImage(qint64 index, const TSPhoto &photo, con
 {
     const QSizeF size = photo.photoOutputSize;
     m_composer.overlayArrays = m_session->overlays().overlays();
-    std::optional<TSOutputImage> image =
-        m_composer.createOutputImage(photo.path, QRectF(QPointF(0, 0), size), photo, index,
-                                     size.width() / photo.photoSize.width());
+    std::optional<TSOutputImage> image = m_composer.createOutputImage(
+        photo.path, QRectF(QPointF(0, 0), size), photo, index, size.width() / photo.photoSize.width());
     if (!image) {
         outcome.reason = m_composer.reason();
         report(index, false, outcome);

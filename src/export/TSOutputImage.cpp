@@ -39,7 +39,8 @@ double TSOutputImage::memory() const
     constexpr double bytesPerPixel = 4;
     const QSizeF source(m_source.size());
     const QSizeF output(m_size);
-    return always + bytesPerPixel * std::max(source.width() * source.height(), output.width() * output.height());
+    return always +
+           bytesPerPixel * std::max(source.width() * source.height(), output.width() * output.height());
 }
 
 QImage TSOutputImage::thumbnail() const

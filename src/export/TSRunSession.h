@@ -9,8 +9,8 @@
 /// The session as it stood when a run began: photos, requested output, and marks with their rows. The run
 /// places and draws these marks, so the ones on the screen stay where they are, and nothing has to be locked.
 ///
-/// Taken on the main thread; used, and destroyed, on the thread of the run alone, since the fonts of its texts
-/// belong to that.
+/// Taken on the main thread; used, and destroyed, on the thread of the run alone, since the fonts of its
+/// texts belong to that.
 class TSRunSession {
 public:
     /// Of the current session.

@@ -5,9 +5,9 @@
 #include <vector>
 
 /// Tells which instance of a session-wide class is current: the one that the calling thread has taken for its
-/// own, or else the youngest that lives. So a test sets up a fresh session by making one, and a run works on a
-/// copy that nobody else sees. An instance holds one of these as a member, made with its own address; that of
-/// a copy is empty, so a copy is current only where a thread takes it.
+/// own, or else the youngest that lives. So a test sets up a fresh session by making one, and a run works on
+/// a copy that nobody else sees. An instance holds one of these as a member, made with its own address; that
+/// of a copy is empty, so a copy is current only where a thread takes it.
 ///
 /// Instances are made and destroyed on the main thread, copies anywhere. `get()` is for any thread once an
 /// instance exists.

@@ -394,9 +394,8 @@ TEST_F(RunTest, PhotosOnWhichNoMarkShowsAreNamed)
     addPhotos({"a", "b"}, {100, 100});
     const QString gone = addMark(QRectF(20, 10, 40, 20), Qt::green)->imagePath();
     const auto isWarned = [this](const char *text) {
-        return std::any_of(
-            host.outcomes[0].warnings.begin(), host.outcomes[0].warnings.end(),
-            [text](const QString &warning) { return warning.contains(QLatin1String(text)); });
+        return std::any_of(host.outcomes[0].warnings.begin(), host.outcomes[0].warnings.end(),
+                           [text](const QString &warning) { return warning.contains(QLatin1String(text)); });
     };
     run.savePhotos(out);
     EXPECT_TRUE(host.outcomes[0].warnings.isEmpty());
