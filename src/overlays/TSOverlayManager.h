@@ -59,5 +59,7 @@ public:
     void encodeWithCoder(platform::KeyedArchiver &coder) const override;
 
 private:
+    bool moveInOrder(qint64 d, const Overlays &selection);
+
     Overlays m_overlays;
 };

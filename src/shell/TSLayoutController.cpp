@@ -51,10 +51,7 @@ TSProfileApplierDelegate::Answer TSLayoutController::askToCoverWatermarks()
 
 void TSLayoutController::clearSelection()
 {
-    m_preview.selection().setEditingOverlaysArray({});
-    m_preview.selection().setEditingOverlay(nullptr);
-    m_preview.selection().setEditingText(nullptr);
-    m_preview.selection().setGuideOverlay(nullptr);
+    m_preview.selection().clear();
 }
 
 void TSLayoutController::profileWasApplied()

@@ -347,7 +347,7 @@ void TSMainWindowController::releaseShownPhoto()
 
 void TSMainWindowController::emptyEditingOverlaysArray()
 {
-    preview().selection().setEditingOverlaysArray({});
+    preview().selection().clear();
 }
 
 void TSMainWindowController::clearEditingOverlay()

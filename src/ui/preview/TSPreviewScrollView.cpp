@@ -87,15 +87,28 @@ QRectF TSPreviewScrollView::superviewBounds() const
 void TSPreviewScrollView::previewFrameDidChange(const QRectF &frame)
 {
     m_documentSize = frame.size();
+    showScrollBars();
+    const QSize visible = viewport()->size();
+    horizontalScrollBar()->setRange(0, std::max(0, int(m_documentSize.width()) - visible.width()));
+    verticalScrollBar()->setRange(0, std::max(0, int(m_documentSize.height()) - visible.height()));
+    horizontalScrollBar()->setPageStep(visible.width());
+    verticalScrollBar()->setPageStep(visible.height());
+    redrawCanvasView();
+}
+
+/// By the policies, which act at once: by its range a bar comes a turn of the event loop later, when the canvas
+/// has been laid out without it.
+void TSPreviewScrollView::showScrollBars()
+{
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     // Showing a bar narrows the view in the other direction, which the second round finds.
     for (int round = 0; round < 2; ++round) {
-        const QSize visible = viewport()->size();
-        horizontalScrollBar()->setRange(0, std::max(0, int(m_documentSize.width()) - visible.width()));
-        verticalScrollBar()->setRange(0, std::max(0, int(m_documentSize.height()) - visible.height()));
-        horizontalScrollBar()->setPageStep(visible.width());
-        verticalScrollBar()->setPageStep(visible.height());
+        if (int(m_documentSize.width()) > viewport()->width())
+            setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+        if (int(m_documentSize.height()) > viewport()->height())
+            setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     }
-    redrawCanvasView();
 }
 
 void TSPreviewScrollView::scrollToPoint(const QPointF &point)
@@ -204,9 +217,16 @@ void TSPreviewScrollView::paintEvent(QPaintEvent *event)
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     const QRectF visible = QRectF(event->rect()).translated(scrollOffset());
     m_preview.overlaysLayer().drawRect(painter, visible);
+    m_preview.trackerState().isInactive = !hasKeysOfWindow();
     m_preview.trackerLayer().drawRect(painter);
     if (hasFocus() && m_isUsedByKeys)
         drawFocusRing(painter);
+}
+
+/// Also while another window is up: what had the keys before has them afterwards.
+bool TSPreviewScrollView::hasKeysOfWindow() const
+{
+    return window()->focusWidget() == this;
 }
 
 /// Around the marks that the keys act on, or else the whole preview, for whoever works without a mouse.
