@@ -26,6 +26,7 @@ TSSheet::TSSheet(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::FramelessWi
         parent->window()->installEventFilter(this);
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &TSSheet::giveKeysBack,
             Qt::QueuedConnection);
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &TSSheet::keepKeys, Qt::QueuedConnection);
 }
 
 TSSheet::~TSSheet()
@@ -90,6 +91,27 @@ void TSSheet::changeEvent(QEvent *event)
         QTimer::singleShot(0, this, &TSSheet::endLeaving);
 }
 
+/// A click beside the sheet gives the keys to a window that takes none as long as the sheet is up. Some window
+/// managers listen to an answer only once the click itself has come through.
+void TSSheet::keepKeys()
+{
+    if (!isVisible() || m_isLeaving || !isOver(QApplication::activeWindow()))
+        return;
+    takeKeys();
+    QTimer::singleShot(settled, this, [this] {
+        if (isOver(QApplication::activeWindow()))
+            takeKeys();
+    });
+}
+
+bool TSSheet::isOver(const QWidget *window) const
+{
+    for (const QWidget *below = parentWidget(); window && below; below = below->parentWidget())
+        if (below == window)
+            return true;
+    return false;
+}
+
 /// What the window manager does and what the sheet does cross each other on their way: the word that it has
 /// the keys may come when it is gone, and no other word follows.
 void TSSheet::giveKeysBack()
@@ -121,6 +143,17 @@ void TSSheet::hideEvent(QHideEvent *event)
     QDialog::hideEvent(event);
     delete m_veil;
     QTimer::singleShot(settled, this, &TSSheet::giveKeysBack);
+    if (parentWidget() && QApplication::activeWindow())
+        leaveKeysTo(parentWidget()->window());
+}
+
+/// Of two sheets that go at once a window manager may give the keys to the lower one, and then to nobody.
+void TSSheet::leaveKeysTo(QWidget *window)
+{
+    QTimer::singleShot(settled, window, [window] {
+        if (window->isVisible() && !QGuiApplication::focusWindow())
+            window->activateWindow();
+    });
 }
 
 void TSSheet::dimParent()
