@@ -21,6 +21,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTest>
 #include <QTimer>
@@ -245,6 +246,15 @@ TEST_F(MainWindowTest, ZoomAndWindowKeepTheMarkOnThePhoto)
     QTest::qWait(50);
     expectRect(placeInOutput(*mark).toRect(), place.toRect());
     EXPECT_LT(session.data.canvasFrame.bottom(), window().preview->viewport()->height());
+}
+
+TEST_F(MainWindowTest, TheFirstWindowFitsTheScreen)
+{
+    const QRect room = window().screen()->availableGeometry();
+    const TSMainWindow first;
+    EXPECT_LT(first.width(), room.width());
+    EXPECT_LT(first.height(), room.height());
+    EXPECT_LE(first.minimumWidth(), first.width());
 }
 
 /// At every zoom, and whichever bars were there before.
