@@ -4,8 +4,8 @@
 #include <QProgressBar>
 #include <QTimer>
 
-/// A progress bar without words. While nobody can tell how far things are, which is what no range stands for, a short
-/// piece runs through it, beginning with an empty bar.
+/// A progress bar without words. While nobody can tell how far things are, which is what no range stands for,
+/// a short piece runs through it, beginning with an empty bar.
 class TSBusyBar : public QProgressBar {
     Q_OBJECT
 

@@ -91,8 +91,8 @@ void TSSheet::changeEvent(QEvent *event)
         QTimer::singleShot(0, this, &TSSheet::endLeaving);
 }
 
-/// A click beside the sheet gives the keys to a window that takes none as long as the sheet is up. Some window
-/// managers listen to an answer only once the click itself has come through.
+/// A click beside the sheet gives the keys to a window that takes none as long as the sheet is up. Some
+/// window managers listen to an answer only once the click itself has come through.
 void TSSheet::keepKeys()
 {
     if (!isVisible() || m_isLeaving || !isOver(QApplication::activeWindow()))

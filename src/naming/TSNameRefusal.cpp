@@ -21,8 +21,9 @@ QString TSNameRefusal(const QStringList &names)
             continue;
         QString shown = name.size() > longestShown ? name.left(longestShown) + u'…' : name;
         shown.replace(QChar(u'\0'), QChar(QChar::ReplacementCharacter));
-        return name.contains(u'/') ? qtTrId("“%1” has a slash in it, which no file name can have.").arg(shown)
-                                   : qtTrId("“%1” has a character in it that no file name can have.").arg(shown);
+        return name.contains(u'/')
+                   ? qtTrId("“%1” has a slash in it, which no file name can have.").arg(shown)
+                   : qtTrId("“%1” has a character in it that no file name can have.").arg(shown);
     }
     return {};
 }

@@ -83,8 +83,8 @@ void TSOverlayManager::ChangeHierarchy(qint64 d, const Overlays &selection)
 {
     if (moveInOrder(d, selection))
         return;
-    // Neighbours that were chosen from the top down count themselves into one place; from the bottom up nobody
-    // does.
+    // Neighbours that were chosen from the top down count themselves into one place; from the bottom up
+    // nobody does.
     Overlays upward = selection;
     std::sort(upward.begin(), upward.end(), [this](const auto &one, const auto &other) {
         return indexOfOverlay(one) > indexOfOverlay(other);

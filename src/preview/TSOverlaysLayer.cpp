@@ -17,8 +17,8 @@ void TSOverlaysLayer::drawRect(QPainter &context, const QRectF &dirtyRect) const
         QSize(int(std::ceil(data->previewFrame.width())), int(std::ceil(data->previewFrame.height()))));
     const TSImageScreen screen(context.device()->devicePixelRatioF());
     const auto overlays = TSOverlayManager::overlayManager()->overlays();
-    // Also those whose frames lie elsewhere: a turn or a shadow reaches out of the frame, and the layer itself
-    // leaves out what does not meet the rectangle.
+    // Also those whose frames lie elsewhere: a turn or a shadow reaches out of the frame, and the layer
+    // itself leaves out what does not meet the rectangle.
     for (auto overlay = overlays.rbegin(); overlay != overlays.rend(); ++overlay)
         (*overlay)->drawIncontext(layer);
     context.save();

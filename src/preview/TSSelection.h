@@ -21,8 +21,8 @@ public:
     /// In the order of selecting.
     const Overlays &editingOverlaysArray() const { return m_editingOverlaysArray; }
     void setEditingOverlaysArray(Overlays overlays) { m_editingOverlaysArray = std::move(overlays); }
-    /// Nothing is selected any more, and the mouse is on no node. For whoever empties the selection without the
-    /// mouse; announces nothing.
+    /// Nothing is selected any more, and the mouse is on no node. For whoever empties the selection without
+    /// the mouse; announces nothing.
     void clear();
     /// Adds nothing twice.
     void editingOverlaysArrayAddobject(const std::shared_ptr<TSOverlay> &overlay);

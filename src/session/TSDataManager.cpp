@@ -173,8 +173,8 @@ QImage TSDataManager::cacheAtIndex(qint64 index)
     return image;
 }
 
-/// Not of a photo that was removed while it was being decoded: under its path the next one of that file, which
-/// may have changed, would get the old picture.
+/// Not of a photo that was removed while it was being decoded: under its path the next one of that file,
+/// which may have changed, would get the old picture.
 void TSDataManager::storeCache(const std::shared_ptr<TSImageBrowserItem> &item, const QImage &image)
 {
     const Lock lock(m_itemsLock);

@@ -13,9 +13,9 @@
 
 void TSLayoutController::openProfileAction()
 {
-    const QString package =
-        QFileDialog::getExistingDirectory(&m_window, qtTrId("ChooseLayout"),
-                                          TSLastFolder(TSFolderUse::Layouts, TSProfileLibrary::builtInRoot()));
+    const QString package = QFileDialog::getExistingDirectory(
+        &m_window, qtTrId("ChooseLayout"),
+        TSLastFolder(TSFolderUse::Layouts, TSProfileLibrary::builtInRoot()));
     if (package.isEmpty())
         return;
     // Beside the one that was taken are the others.

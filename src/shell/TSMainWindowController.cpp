@@ -241,10 +241,9 @@ void TSMainWindowController::addPhotos(const QList<QUrl> &urls)
 void TSMainWindowController::loadPhotoAction()
 {
     const QUrl folder = QUrl::fromLocalFile(TSLastFolder(TSFolderUse::Photos));
-    const QList<QUrl> urls =
-        QFileDialog::getOpenFileUrls(m_window.get(), qtTrId("ChoosePhoto"), folder,
-                                     photoFilter(qtTrId("Photos")), nullptr,
-                                     QFileDialog::HideNameFilterDetails);
+    const QList<QUrl> urls = QFileDialog::getOpenFileUrls(m_window.get(), qtTrId("ChoosePhoto"), folder,
+                                                          photoFilter(qtTrId("Photos")), nullptr,
+                                                          QFileDialog::HideNameFilterDetails);
     if (urls.isEmpty() || !m_photoIntake)
         return;
     if (urls.first().isLocalFile())
@@ -254,10 +253,9 @@ void TSMainWindowController::loadPhotoAction()
 
 void TSMainWindowController::addStickerFromFinder()
 {
-    const QString path =
-        QFileDialog::getOpenFileName(m_window.get(), qtTrId("ChooseImage"),
-                                     TSLastFolder(TSFolderUse::Pictures), photoFilter(qtTrId("Pictures")),
-                                     nullptr, QFileDialog::HideNameFilterDetails);
+    const QString path = QFileDialog::getOpenFileName(
+        m_window.get(), qtTrId("ChooseImage"), TSLastFolder(TSFolderUse::Pictures),
+        photoFilter(qtTrId("Pictures")), nullptr, QFileDialog::HideNameFilterDetails);
     if (path.isEmpty())
         return;
     TSRememberFolder(TSFolderUse::Pictures, QFileInfo(path).absolutePath());

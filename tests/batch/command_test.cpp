@@ -73,8 +73,9 @@ TEST_F(CommandTest, ANameThatNoFileCanHaveIsRefused)
     session.writeJpeg("a.jpg", plainImage({60, 40}));
     for (const char *name : {"x/{Name}", "{Name}_{Modified:MM/dd/yyyy}"})
         for (const char *way : {"--dry-run", "--json"}) {
-            EXPECT_EQ(run({"--name", QLatin1String(name), "--output", outFolder(), QLatin1String(way)}, {"a.jpg"}),
-                      TSBatchStatus::WrongUsage);
+            EXPECT_EQ(
+                run({"--name", QLatin1String(name), "--output", outFolder(), QLatin1String(way)}, {"a.jpg"}),
+                TSBatchStatus::WrongUsage);
             EXPECT_EQ(output.toStdString(), "");
             EXPECT_TRUE(errors.contains("has a slash in it")) << errors.toStdString();
             EXPECT_EQ(files(), QStringList());

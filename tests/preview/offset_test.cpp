@@ -69,7 +69,8 @@ TEST_F(OffsetTest, SeveralGoStepByStepAcrossTheCanvas)
         const int key = unit == TSOffsetUnit::Percentage ? Qt::Key_Right : Qt::Key_Left;
         for (int count = 1; count <= 300; ++count) {
             pressKey(key);
-            const double expected = unit == TSOffsetUnit::Percentage ? count * step : std::max(-10.0, count * step);
+            const double expected =
+                unit == TSOffsetUnit::Percentage ? count * step : std::max(-10.0, count * step);
             ASSERT_NEAR(a->frame().x() - 10, expected, 0.03 * count) << count;
             expectNear(b->frame().topLeft() - a->frame().topLeft(), {50, 80}, 1e-3);
         }

@@ -88,7 +88,8 @@ TEST_F(FileUtilityTest, FreeNames)
 TEST_F(FileUtilityTest, NamesakesAreToldWithTheirFolders)
 {
     const QStringList paths{"/p/README", "/p/q/README", "/r/q/README", "/a/b.jpg", "/a/b.jpg", "/c/b.jpg"};
-    EXPECT_EQ(TSDistinctNames(paths, 5), (QStringList{"p/README", "p/q/README", "r/q/README", "a/b.jpg", "a/b.jpg"}));
+    EXPECT_EQ(TSDistinctNames(paths, 5),
+              (QStringList{"p/README", "p/q/README", "r/q/README", "a/b.jpg", "a/b.jpg"}));
     EXPECT_EQ(TSDistinctNames({"/a/b.jpg", "/a/b.jpg"}, 9), (QStringList{"b.jpg", "b.jpg"}));
 }
 

@@ -68,8 +68,8 @@ TEST_F(PhotoListTest, RemovalRenumbers)
     EXPECT_FALSE(session.data.isHasItem(QStringLiteral("/photos/1.jpg")));
 }
 
-/// Of a photo that is taken off the list while it is decoded nothing stays behind, neither its picture nor the word
-/// that it has one.
+/// Of a photo that is taken off the list while it is decoded nothing stays behind, neither its picture nor
+/// the word that it has one.
 TEST_F(PhotoListTest, APhotoRemovedMeanwhileLeavesNothing)
 {
     const QString path = session.path("slow.png");
@@ -98,7 +98,8 @@ TEST_F(PhotoListTest, APhotoRemovedMeanwhileLeavesNothing)
     }
     EXPECT_TRUE(wasMeanwhile);
 
-    // The background filling may come to its end after the photo has. Another one lies where it lay before long.
+    // The background filling may come to its end after the photo has. Another one lies where it lay before
+    // long.
     auto gone = std::make_shared<TSPhoto>();
     const auto *place = gone.get();
     session.data.addCachedPhoto(gone);

@@ -154,7 +154,8 @@ TEST_F(FormatWindowTest, ANameThatNoFileCanHaveKeepsTheExportBack)
     const QSignalSpy panels(&session.center, &TSNotificationCenter::TSOpenSavePanel);
     const int height = sheet->height();
     const auto expectRefusal = [&](const char *name) {
-        const std::string told = name ? "“" + std::string(name) + "” has a slash in it, which no file name can have." : "";
+        const std::string told =
+            name ? "“" + std::string(name) + "” has a slash in it, which no file name can have." : "";
         EXPECT_EQ(child<QLabel>("tfRefusal")->text().toStdString(), told);
         EXPECT_EQ(child<QWidget>("btOK")->isEnabled(), !name);
         if (name)

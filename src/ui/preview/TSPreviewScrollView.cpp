@@ -4,6 +4,7 @@
 #include "preview/TSPhotoDrop.h"
 #include "preview/TSPreviewBackground.h"
 #include "session/TSNotificationCenter.h"
+#include "ui/preview/TSMarkRing.h"
 #include "ui/preview/TSPreviewCursors.h"
 
 #include <algorithm>
@@ -96,8 +97,8 @@ void TSPreviewScrollView::previewFrameDidChange(const QRectF &frame)
     redrawCanvasView();
 }
 
-/// By the policies, which act at once: by its range a bar comes a turn of the event loop later, when the canvas
-/// has been laid out without it.
+/// By the policies, which act at once: by its range a bar comes a turn of the event loop later, when the
+/// canvas has been laid out without it.
 void TSPreviewScrollView::showScrollBars()
 {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -237,21 +238,8 @@ void TSPreviewScrollView::drawFocusRing(QPainter &painter)
         TSTheme::drawFocusRing(painter, viewport()->rect(), palette(), 3);
         return;
     }
-    painter.setBrush(Qt::NoBrush);
-    for (const auto &overlay : m_preview.selection().editingOverlaysArray()) {
-        painter.save();
-        const QPointF center = overlay->frame().center();
-        painter.translate(center);
-        painter.rotate(overlay->angle() * 180 / std::numbers::pi);
-        painter.translate(-center);
-        // On a rim, to be seen on any photo.
-        for (const auto &[color, width] :
-             {std::pair(QPalette::Window, 4), std::pair(QPalette::Highlight, 2)}) {
-            painter.setPen(QPen(palette().color(color), width));
-            painter.drawRoundedRect(overlay->frame().adjusted(-5, -5, 5, 5), 4, 4);
-        }
-        painter.restore();
-    }
+    for (const auto &overlay : m_preview.selection().editingOverlaysArray())
+        TSDrawMarkRing(painter, *overlay, palette());
 }
 
 void TSPreviewScrollView::scrollContentsBy(int, int)
