@@ -60,7 +60,10 @@ bool TSSheet::eventFilter(QObject *object, QEvent *event)
 void TSSheet::setVisible(bool visible)
 {
     m_isLeaving = false;
+    const bool hadKeys = isVisible() && isActiveWindow();
     QDialog::setVisible(visible);
+    if (hadKeys && !visible && parentWidget())
+        leaveKeysTo(parentWidget()->window());
 }
 
 void TSSheet::showEvent(QShowEvent *event)
@@ -143,16 +146,18 @@ void TSSheet::hideEvent(QHideEvent *event)
     QDialog::hideEvent(event);
     delete m_veil;
     QTimer::singleShot(settled, this, &TSSheet::giveKeysBack);
-    if (parentWidget() && QApplication::activeWindow())
-        leaveKeysTo(parentWidget()->window());
 }
 
 /// Of two sheets that go at once a window manager may give the keys to the lower one, and then to nobody.
+/// Whoever has gone to another program is left there.
 void TSSheet::leaveKeysTo(QWidget *window)
 {
     QTimer::singleShot(settled, window, [window] {
-        if (window->isVisible() && !QGuiApplication::focusWindow())
-            window->activateWindow();
+        QWidget *below = window;
+        while (below && !below->isVisible())
+            below = below->parentWidget() ? below->parentWidget()->window() : nullptr;
+        if (below && !QGuiApplication::focusWindow())
+            below->activateWindow();
     });
 }
 
