@@ -106,6 +106,10 @@
         <source>Example</source>
         <translation>Beispiel</translation>
     </message>
+    <message id="ExportCounts">
+        <source>%1 written, %2 failed, %3 skipped</source>
+        <translation>%1 geschrieben, %2 fehlgeschlagen, %3 übersprungen</translation>
+    </message>
     <message id="ExportDone">
         <source>The photos are exported</source>
         <translation>Die Fotos sind exportiert</translation>
@@ -270,8 +274,8 @@
         <translation>Umbenennen nummeriert die neuen Dateien. Ersetzen überschreibt die vorhandenen. Die Antwort gilt für den ganzen Export.</translation>
     </message>
     <message id="NameRepetitionTitle">
-        <source>A file of that name is there already</source>
-        <translation>Eine Datei mit diesem Namen gibt es schon</translation>
+        <source>A file named %1 is there already</source>
+        <translation>Eine Datei mit dem Namen %1 gibt es schon</translation>
     </message>
     <message id="No Change">
         <source>No Change</source>
@@ -338,6 +342,10 @@
     <message id="Photos">
         <source>Photos</source>
         <translation>Fotos</translation>
+    </message>
+    <message id="Pictures">
+        <source>Pictures</source>
+        <translation>Bilder</translation>
     </message>
     <message id="Pixels">
         <source>pixels</source>
@@ -686,6 +694,14 @@
     <message id="This is not a file.">
         <source>This is not a file.</source>
         <translation>Das ist keine Datei.</translation>
+    </message>
+    <message id="“%1” has a character in it that no file name can have.">
+        <source>“%1” has a character in it that no file name can have.</source>
+        <translation>„%1“ enthält ein Zeichen, das kein Dateiname haben kann.</translation>
+    </message>
+    <message id="“%1” has a slash in it, which no file name can have.">
+        <source>“%1” has a slash in it, which no file name can have.</source>
+        <translation>„%1“ enthält einen Schrägstrich, den kein Dateiname haben kann.</translation>
     </message>
 </context>
 </TS>

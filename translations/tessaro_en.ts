@@ -106,6 +106,10 @@
         <source>Example</source>
         <translation>Example</translation>
     </message>
+    <message id="ExportCounts">
+        <source>%1 written, %2 failed, %3 skipped</source>
+        <translation>%1 written, %2 failed, %3 skipped</translation>
+    </message>
     <message id="ExportDone">
         <source>The photos are exported</source>
         <translation>The photos are exported</translation>
@@ -270,8 +274,8 @@
         <translation>Rename numbers the new files. Replace writes over the files that are there. The answer holds for the whole export.</translation>
     </message>
     <message id="NameRepetitionTitle">
-        <source>A file of that name is there already</source>
-        <translation>A file of that name is there already</translation>
+        <source>A file named %1 is there already</source>
+        <translation>A file named %1 is there already</translation>
     </message>
     <message id="No Change">
         <source>No Change</source>
@@ -338,6 +342,10 @@
     <message id="Photos">
         <source>Photos</source>
         <translation>Photos</translation>
+    </message>
+    <message id="Pictures">
+        <source>Pictures</source>
+        <translation>Pictures</translation>
     </message>
     <message id="Pixels">
         <source>pixels</source>
@@ -686,6 +694,14 @@
     <message id="This is not a file.">
         <source>This is not a file.</source>
         <translation>This is not a file.</translation>
+    </message>
+    <message id="“%1” has a character in it that no file name can have.">
+        <source>“%1” has a character in it that no file name can have.</source>
+        <translation>“%1” has a character in it that no file name can have.</translation>
+    </message>
+    <message id="“%1” has a slash in it, which no file name can have.">
+        <source>“%1” has a slash in it, which no file name can have.</source>
+        <translation>“%1” has a slash in it, which no file name can have.</translation>
     </message>
 </context>
 </TS>

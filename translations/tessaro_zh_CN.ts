@@ -105,6 +105,10 @@
         <source>Example</source>
         <translation>示例</translation>
     </message>
+    <message id="ExportCounts">
+        <source>%1 written, %2 failed, %3 skipped</source>
+        <translation>已写入 %1 张，失败 %2 张，跳过 %3 张</translation>
+    </message>
     <message id="ExportDone">
         <source>The photos are exported</source>
         <translation>照片已导出</translation>
@@ -268,8 +272,8 @@
         <translation>“重命名”会为新文件编号，“替换”会覆盖现有文件。此选择适用于整个导出。</translation>
     </message>
     <message id="NameRepetitionTitle">
-        <source>A file of that name is there already</source>
-        <translation>已存在同名文件</translation>
+        <source>A file named %1 is there already</source>
+        <translation>已存在名为 %1 的文件</translation>
     </message>
     <message id="No Change">
         <source>No Change</source>
@@ -334,6 +338,10 @@
     <message id="Photos">
         <source>Photos</source>
         <translation>照片</translation>
+    </message>
+    <message id="Pictures">
+        <source>Pictures</source>
+        <translation>图片</translation>
     </message>
     <message id="Pixels">
         <source>pixels</source>
@@ -682,6 +690,14 @@
     <message id="This is not a file.">
         <source>This is not a file.</source>
         <translation>这不是文件。</translation>
+    </message>
+    <message id="“%1” has a character in it that no file name can have.">
+        <source>“%1” has a character in it that no file name can have.</source>
+        <translation>“%1”中含有文件名不能使用的字符。</translation>
+    </message>
+    <message id="“%1” has a slash in it, which no file name can have.">
+        <source>“%1” has a slash in it, which no file name can have.</source>
+        <translation>“%1”中含有斜杠，文件名不能包含斜杠。</translation>
     </message>
 </context>
 </TS>

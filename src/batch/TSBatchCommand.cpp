@@ -4,6 +4,7 @@
 #include "batch/TSBatchOptionParser.h"
 #include "batch/TSBatchSignals.h"
 #include "naming/TSNamePattern.h"
+#include "naming/TSNameRefusal.h"
 #include "overlays/TSGroup.h"
 #include "overlays/TSOverlayManager.h"
 #include "overlays/TSText.h"
@@ -121,6 +122,10 @@ int TSBatchCommand::exportAll()
     warnOfFonts();
     if (!isExportWanted())
         warnOfRefusals();
+    if (const QString refusal = nameOutputs(); isExportWanted() && !refusal.isEmpty()) {
+        m_reporter.warning(refusal);
+        return TSBatchStatus::WrongUsage;
+    }
     const bool isSaved = saveProfile();
     const bool isComplete = !isExportWanted() || writePhotos();
     if (m_run.isCancelled)
@@ -138,7 +143,6 @@ bool TSBatchCommand::writePhotos()
 {
     m_reporter.begin(qint64(m_entries.size()));
     requestOutput();
-    nameOutputs();
     m_run.savePhotos(outputFolder());
     tellRest();
     m_reporter.end();
@@ -239,11 +243,13 @@ void TSBatchCommand::requestOutput()
     data->percentage = m_options.percentage;
 }
 
-void TSBatchCommand::nameOutputs()
+/// Answers why a name among them can be no file's.
+QString TSBatchCommand::nameOutputs()
 {
     TSNamePattern pattern;
     pattern.setObjectValue(m_options.name);
     pattern.exportImageNames();
+    return TSNameRefusal(TSDataManager::dataManager()->exportNames);
 }
 
 void TSBatchCommand::photoIsDone(qint64 index, const TSExportOutcome &outcome)

@@ -40,7 +40,7 @@ private:
     QString outputFolder() const;
     bool publishCanvas();
     void requestOutput();
-    void nameOutputs();
+    QString nameOutputs();
     void tellEntriesBefore(qint64 photo);
     void tellRest();
     TSExportOutcome outcomeOfRest() const;

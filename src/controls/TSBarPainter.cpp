@@ -50,11 +50,28 @@ void TSBarPainter::drawScrollBar(const QStyleOptionSlider *bar, QPainter *painte
                color);
 }
 
-void TSBarPainter::drawProgress(const QStyleOptionProgressBar *bar, QPainter *painter)
+QRectF TSBarPainter::progressGroove(const QStyleOptionProgressBar *bar)
 {
     constexpr double thickness = 8;
     const QRectF rect = bar->rect;
-    const QRectF groove(rect.left(), rect.center().y() - thickness / 2, rect.width(), thickness);
+    return {rect.left(), rect.center().y() - thickness / 2, rect.width(), thickness};
+}
+
+void TSBarPainter::drawBusy(const QStyleOptionProgressBar *bar, QPainter *painter, double phase)
+{
+    const QRectF groove = progressGroove(bar);
+    drawGroove(painter, groove, grooveColor(bar->palette));
+    constexpr double share = 0.3;
+    QRectF piece = groove;
+    piece.setWidth(share * groove.width());
+    const double from = bar->direction == Qt::RightToLeft ? 1 - phase : phase;
+    piece.moveLeft(groove.left() - piece.width() + from * (groove.width() + piece.width()));
+    drawGroove(painter, piece & groove, bar->palette.color(QPalette::Highlight));
+}
+
+void TSBarPainter::drawProgress(const QStyleOptionProgressBar *bar, QPainter *painter)
+{
+    const QRectF groove = progressGroove(bar);
     drawGroove(painter, groove, grooveColor(bar->palette));
     const double share = double(bar->progress - bar->minimum) / qMax(1, bar->maximum - bar->minimum);
     QRectF done = groove;

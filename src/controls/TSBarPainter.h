@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QColor>
-#include <QRect>
+#include <QRectF>
 
 class QPainter;
 class QPalette;
@@ -17,4 +17,9 @@ public:
     static QRect scrollBarHandle(const QStyleOptionSlider *bar);
     static void drawScrollBar(const QStyleOptionSlider *bar, QPainter *painter);
     static void drawProgress(const QStyleOptionProgressBar *bar, QPainter *painter);
+    /// A piece on its way through the bar, from before its beginning at 0 to behind its end at 1.
+    static void drawBusy(const QStyleOptionProgressBar *bar, QPainter *painter, double phase);
+
+private:
+    static QRectF progressGroove(const QStyleOptionProgressBar *bar);
 };

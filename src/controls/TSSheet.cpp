@@ -26,6 +26,7 @@ TSSheet::TSSheet(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::FramelessWi
         parent->window()->installEventFilter(this);
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &TSSheet::giveKeysBack,
             Qt::QueuedConnection);
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &TSSheet::keepKeys, Qt::QueuedConnection);
 }
 
 TSSheet::~TSSheet()
@@ -59,7 +60,10 @@ bool TSSheet::eventFilter(QObject *object, QEvent *event)
 void TSSheet::setVisible(bool visible)
 {
     m_isLeaving = false;
+    const bool hadKeys = isVisible() && isActiveWindow();
     QDialog::setVisible(visible);
+    if (hadKeys && !visible && parentWidget())
+        leaveKeysTo(parentWidget()->window());
 }
 
 void TSSheet::showEvent(QShowEvent *event)
@@ -88,6 +92,27 @@ void TSSheet::changeEvent(QEvent *event)
     m_hasHadKeys = true;
     if (m_isLeaving)
         QTimer::singleShot(0, this, &TSSheet::endLeaving);
+}
+
+/// A click beside the sheet gives the keys to a window that takes none as long as the sheet is up. Some
+/// window managers listen to an answer only once the click itself has come through.
+void TSSheet::keepKeys()
+{
+    if (!isVisible() || m_isLeaving || !isOver(QApplication::activeWindow()))
+        return;
+    takeKeys();
+    QTimer::singleShot(settled, this, [this] {
+        if (isOver(QApplication::activeWindow()))
+            takeKeys();
+    });
+}
+
+bool TSSheet::isOver(const QWidget *window) const
+{
+    for (const QWidget *below = parentWidget(); window && below; below = below->parentWidget())
+        if (below == window)
+            return true;
+    return false;
 }
 
 /// What the window manager does and what the sheet does cross each other on their way: the word that it has
@@ -121,6 +146,19 @@ void TSSheet::hideEvent(QHideEvent *event)
     QDialog::hideEvent(event);
     delete m_veil;
     QTimer::singleShot(settled, this, &TSSheet::giveKeysBack);
+}
+
+/// Of two sheets that go at once a window manager may give the keys to the lower one, and then to nobody.
+/// Whoever has gone to another program is left there.
+void TSSheet::leaveKeysTo(QWidget *window)
+{
+    QTimer::singleShot(settled, window, [window] {
+        QWidget *below = window;
+        while (below && !below->isVisible())
+            below = below->parentWidget() ? below->parentWidget()->window() : nullptr;
+        if (below && !QGuiApplication::focusWindow())
+            below->activateWindow();
+    });
 }
 
 void TSSheet::dimParent()

@@ -37,7 +37,10 @@ protected:
 
 private:
     void takeKeys();
+    void keepKeys();
+    bool isOver(const QWidget *window) const;
     void giveKeysBack();
+    static void leaveKeysTo(QWidget *window);
     void endLeaving();
     void place();
     int topInset() const;

@@ -77,6 +77,20 @@ void TSOverlayManager::moveScript(const std::shared_ptr<TSOverlay> &overlay, qin
 
 void TSOverlayManager::ChangeHierarchy(qint64 d, const Overlays &selection)
 {
+    if (moveInOrder(d, selection))
+        return;
+    // Neighbours that were chosen from the top down count themselves into one place; from the bottom up
+    // nobody does.
+    Overlays upward = selection;
+    std::sort(upward.begin(), upward.end(), [this](const auto &one, const auto &other) {
+        return indexOfOverlay(one) > indexOfOverlay(other);
+    });
+    moveInOrder(d, upward);
+}
+
+/// False, and nothing is moved, when two come to the same place or one out of the list.
+bool TSOverlayManager::moveInOrder(qint64 d, const Overlays &selection)
+{
     Overlays rest = m_overlays;
     Overlays moved(m_overlays.size());
     for (const auto &overlay : selection) {
@@ -84,7 +98,7 @@ void TSOverlayManager::ChangeHierarchy(qint64 d, const Overlays &selection)
         const auto found = std::find(rest.begin(), rest.end(), overlay);
         const qint64 place = found - rest.begin() + d;
         if (found == rest.end() || place < 0 || place >= overlayCount() || moved[size_t(place)])
-            return;
+            return false;
         moved[size_t(place)] = overlay;
         rest.erase(found);
     }
@@ -93,6 +107,7 @@ void TSOverlayManager::ChangeHierarchy(qint64 d, const Overlays &selection)
         if (!place)
             place = *next++;
     m_overlays = moved;
+    return true;
 }
 
 qint64 TSOverlayManager::notScriptsCount() const

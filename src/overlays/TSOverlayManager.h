@@ -62,6 +62,8 @@ public:
     void encodeWithCoder(platform::KeyedArchiver &coder) const override;
 
 private:
+    bool moveInOrder(qint64 d, const Overlays &selection);
+
     TSCurrentInstance<TSOverlayManager> m_current;
     Overlays m_overlays;
 };

@@ -124,10 +124,19 @@ void TSCanvasLayout::updateCanvasViewFrameByFit()
 
 void TSCanvasLayout::updateCanvasViewFrameByWidth(double width, double height)
 {
-    setFrame({m_frame.x(), m_frame.y(), std::max(width, m_originRect.width()),
-              std::max(height, m_originRect.height())});
+    // The bars of another size, and the area before the window changed, are nothing to go by.
+    setFrame({m_frame.topLeft(), QSizeF(0, 0)});
+    growFrameTo(width, height);
+    // A bar in one direction has narrowed the other, which is not to get one of its own for that.
+    growFrameTo(width, height);
     updateScrollView();
     setCanvasViewFrame(centred(QSizeF(width, height)));
+}
+
+void TSCanvasLayout::growFrameTo(double width, double height)
+{
+    const QSizeF least = m_view.superviewBounds().size();
+    setFrame({m_frame.x(), m_frame.y(), std::max(width, least.width()), std::max(height, least.height())});
 }
 
 void TSCanvasLayout::updateCanvasViewFrameAddPhotoFromPhotos(unsigned sizeMode)

@@ -25,7 +25,7 @@ public:
     void setFrame(const QRectF &frame);
     /// Empties the preview's frame first: it makes the scroll bars go, and the whole area is there to take.
     void fillSuperview();
-    /// What the scroll area showed before the last change of the frame; the least size of the preview.
+    /// What the scroll area showed before the last change of the frame.
     const QRectF &originRect() const { return m_originRect; }
     const QRectF &canvasViewFrame() const { return m_canvasViewFrame; }
     /// The photo keeps the frame as its `previewRect`.
@@ -44,7 +44,7 @@ public:
     void updateOutputSize();
     /// The whole photo, never enlarged, with 40 points to spare vertically.
     void updateCanvasViewFrameByFit();
-    /// A canvas of this size; the preview grows with it and is never smaller than `originRect`.
+    /// A canvas of this size; the preview grows with it and is never smaller than what the scroll area shows.
     void updateCanvasViewFrameByWidth(double width, double height);
     void updateCanvasViewFrameAddPhotoFromPhotos(unsigned sizeMode);
     /// Centres the canvas.
@@ -59,6 +59,7 @@ public:
     QSizeF photoOutputSize() const;
 
 private:
+    void growFrameTo(double width, double height);
     QRectF centred(const QSizeF &canvas) const;
 
     TSPreviewView &m_view;

@@ -67,8 +67,10 @@ void TSDragging::mouseDragged(const TSMouseEvent &event)
         return;
     m_gesture.curPoint = event.point;
     m_trackerState.alignmentLines.clear();
-    if (event.isShiftOrCommand())
+    if (event.isShiftOrCommand()) {
+        m_view.redrawTrackerView();
         return;
+    }
     if (!m_gesture.isInOverlay) {
         dragMarquee();
         return;

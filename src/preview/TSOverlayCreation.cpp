@@ -23,7 +23,7 @@ constexpr double stickerShare = 0.3;
 
 void TSOverlayCreation::clearSelection()
 {
-    m_selection.setEditingOverlaysArray({});
+    m_selection.clear();
     m_trackerState.alignmentLines.clear();
 }
 
@@ -31,8 +31,6 @@ void TSOverlayCreation::createNewText()
 {
     if (!m_layout.photo())
         return;
-    m_selection.setEditingText(nullptr);
-    m_selection.setEditingOverlay(nullptr);
     clearSelection();
     const auto text = std::make_shared<TSText>(qtTrId("SampleText"));
     TSOverlayManager::overlayManager()->addOverlay(text);
@@ -97,9 +95,6 @@ void TSOverlayCreation::deleteEditingOverlay()
     for (const auto &overlay : m_selection.editingOverlaysArray())
         manager->removeOverlay(overlay);
     clearSelection();
-    m_selection.setEditingText(nullptr);
-    m_selection.setEditingOverlay(nullptr);
-    m_selection.setGuideOverlay(nullptr);
     if (manager->overlayCount() == 0)
         m_xOffset = m_yOffset = 0;
     m_view.redrawTrackerView();

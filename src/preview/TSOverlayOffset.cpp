@@ -22,6 +22,18 @@ QRectF unionOfFrames(const TSOverlayManager::Overlays &overlays)
     return block;
 }
 
+/// What a block of overlays is measured from: what the controls have pinned, or else the nearest anchor.
+unsigned anchorOfBlock(const QRectF &frame)
+{
+    const unsigned pinned = TSDataManager::dataManager()->offsetAlignment;
+    if (pinned != TSPositionCode::None)
+        return pinned;
+    TSOverlay block;
+    block.setFrame(frame);
+    block.updateAlignmentAndRatio();
+    return block.wmAlignment();
+}
+
 /// What the controls show, and so what the next step starts from.
 double roundedPercent(double share)
 {
@@ -53,14 +65,8 @@ QPointF TSOverlayOffset::offset() const
     const auto &selected = m_selection.editingOverlaysArray();
     if (selected.empty())
         return {};
-    unsigned anchor = selected.front()->wmAlignment();
     const QRectF frame = unionOfFrames(selected);
-    if (selected.size() > 1) {
-        TSOverlay block;
-        block.setFrame(frame);
-        block.updateAlignmentAndRatio();
-        anchor = block.wmAlignment();
-    }
+    const unsigned anchor = selected.size() > 1 ? anchorOfBlock(frame) : selected.front()->wmAlignment();
     if (anchor == TSPositionCode::None)
         return {};
     return TSAnchorOfRect(anchor, frame) - TSAnchorOfRect(anchor, TSDataManager::dataManager()->canvasFrame);
@@ -129,12 +135,7 @@ void TSOverlayOffset::moveBlock(Axis axis, double distance)
     for (const auto &overlay : selected)
         overlay->updateOriginRatio(block);
     TSDataManager *data = TSDataManager::dataManager();
-    if (data->offsetAlignment == TSPositionCode::None) {
-        TSOverlay measure;
-        measure.setFrame(block);
-        measure.updateAlignmentAndRatio();
-        data->offsetAlignment = measure.wmAlignment();
-    }
+    data->offsetAlignment = anchorOfBlock(block);
     for (const auto &overlay : selected) {
         overlay->setWmAlignment(data->offsetAlignment);
         overlay->setOffsetAlignment(data->offsetAlignment);

@@ -17,9 +17,10 @@ void TSOverlaysLayer::drawRect(QPainter &context, const QRectF &dirtyRect) const
         QSize(int(std::ceil(data->previewFrame.width())), int(std::ceil(data->previewFrame.height()))));
     const TSImageScreen screen(context.device()->devicePixelRatioF());
     const auto overlays = TSOverlayManager::overlayManager()->overlays();
+    // Also those whose frames lie elsewhere: a turn or a shadow reaches out of the frame, and the layer
+    // itself leaves out what does not meet the rectangle.
     for (auto overlay = overlays.rbegin(); overlay != overlays.rend(); ++overlay)
-        if (TSRectsMeet((*overlay)->frame(), dirtyRect))
-            (*overlay)->drawIncontext(layer);
+        (*overlay)->drawIncontext(layer);
     context.save();
     context.setClipRect(data->canvasFrame, Qt::IntersectClip);
     layer.paint(context, dirtyRect.toAlignedRect());

@@ -8,7 +8,7 @@
 TSPreview::TSPreview(TSPreviewView &view)
     : m_view(view)
     , m_layout(view)
-    , m_selection(view, m_trackerState)
+    , m_selection(view, m_trackerState, m_gesture)
     , m_creation(m_layout, view, m_selection, m_trackerState)
     , m_offset(m_selection, view)
     , m_trackerLayer(m_trackerState, m_selection, m_creation)

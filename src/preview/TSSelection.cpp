@@ -1,11 +1,23 @@
 #include "preview/TSSelection.h"
 
+#include "preview/TSGesture.h"
 #include "preview/TSPreviewView.h"
 #include "preview/TSTrackerState.h"
 #include "session/TSDataManager.h"
 #include "session/TSNotificationCenter.h"
 
 #include <algorithm>
+
+void TSSelection::clear()
+{
+    m_editingOverlaysArray.clear();
+    m_editingOverlay = nullptr;
+    m_editingText = nullptr;
+    m_guideOverlay = nullptr;
+    m_trackerState.tracker.reset();
+    // A press on what is no longer there would take hold of nothing, and no move of the mouse looks again.
+    m_gesture.draggingNode = TSTrackerNode::None;
+}
 
 void TSSelection::editingOverlaysArrayAddobject(const std::shared_ptr<TSOverlay> &overlay)
 {
@@ -70,7 +82,7 @@ void TSSelection::selectOverlay(const std::shared_ptr<TSOverlay> &overlay)
 {
     if (m_editingOverlaysArray == Overlays{overlay})
         return;
-    m_editingOverlaysArray.clear();
+    clear();
     editingOverlaysArrayAddobject(overlay);
     setEditingOverlays(false);
 }

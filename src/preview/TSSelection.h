@@ -4,6 +4,7 @@
 #include "overlays/TSText.h"
 
 class TSPreviewView;
+struct TSGesture;
 struct TSTrackerState;
 
 /// Which overlays are being edited. They belong to the working list; whoever takes one out of it takes it
@@ -12,14 +13,17 @@ class TSSelection {
 public:
     using Overlays = TSOverlayManager::Overlays;
 
-    TSSelection(TSPreviewView &view, TSTrackerState &trackerState)
-        : m_view(view), m_trackerState(trackerState)
+    TSSelection(TSPreviewView &view, TSTrackerState &trackerState, TSGesture &gesture)
+        : m_view(view), m_trackerState(trackerState), m_gesture(gesture)
     {
     }
 
     /// In the order of selecting.
     const Overlays &editingOverlaysArray() const { return m_editingOverlaysArray; }
     void setEditingOverlaysArray(Overlays overlays) { m_editingOverlaysArray = std::move(overlays); }
+    /// Nothing is selected any more, and the mouse is on no node. For whoever empties the selection without
+    /// the mouse; announces nothing.
+    void clear();
     /// Adds nothing twice.
     void editingOverlaysArrayAddobject(const std::shared_ptr<TSOverlay> &overlay);
     bool contains(const std::shared_ptr<TSOverlay> &overlay) const;
@@ -42,6 +46,7 @@ public:
     /// yet.
     void setEditingOverlays(bool isNew);
     void updateEditingTextAndEditingOverlay();
+    /// That one alone, or nothing.
     void selectOverlay(const std::shared_ptr<TSOverlay> &overlay);
     void selectAllOverlays();
 
@@ -57,6 +62,7 @@ private:
 
     TSPreviewView &m_view;
     TSTrackerState &m_trackerState;
+    TSGesture &m_gesture;
     TSOverlaySynchronisation m_synchronisation;
     Overlays m_editingOverlaysArray;
     std::shared_ptr<TSOverlay> m_editingOverlay;

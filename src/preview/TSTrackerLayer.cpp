@@ -16,7 +16,16 @@ const QColor knobColor(Qt::lightGray);
 const QColor auxiliaryColor =
     QColor::fromRgbF(float(0.34509803921568627), float(0.7607843137254902), float(0.043137254901960784));
 
-void drawTurnedTracker(QPainter &context, TSOverlay &overlay)
+/// Without nodes, and faint on any photo: a dark line with light dashes.
+void drawInactiveFrame(QPainter &context, const QRectF &frame)
+{
+    context.setPen(QPen(QColor(0, 0, 0, 110), 1));
+    context.drawRect(frame);
+    context.setPen(QPen(QColor(255, 255, 255, 170), 1, Qt::DashLine));
+    context.drawRect(frame);
+}
+
+void drawTurnedTracker(QPainter &context, TSOverlay &overlay, bool isInactive)
 {
     const QPointF center = overlay.tracker()->frame().center();
     QTransform turn;
@@ -25,8 +34,23 @@ void drawTurnedTracker(QPainter &context, TSOverlay &overlay)
     turn.translate(-center.x(), -center.y());
     context.save();
     context.setTransform(turn, true);
-    overlay.tracker()->drawInContext(context);
+    if (isInactive)
+        drawInactiveFrame(context, overlay.frame());
+    else
+        overlay.tracker()->drawInContext(context);
     context.restore();
+}
+
+/// Of a Script text, whose frame is the canvas.
+void drawScriptFrame(QPainter &context, bool isInactive)
+{
+    const QRectF &canvas = TSDataManager::dataManager()->canvasFrame;
+    if (isInactive) {
+        drawInactiveFrame(context, canvas);
+        return;
+    }
+    context.setPen(QPen(Qt::yellow, 1));
+    context.drawRect(canvas);
 }
 
 } // namespace
@@ -61,12 +85,10 @@ void TSTrackerLayer::drawTrackers(QPainter &context)
     for (auto overlay = selected.rbegin(); overlay != selected.rend(); ++overlay) {
         m_state.tracker = std::shared_ptr<TSTracker>(*overlay, (*overlay)->tracker());
         (*overlay)->tracker()->setFrame((*overlay)->frame());
-        if (m_selection.isContainScriptObject()) {
-            context.setPen(QPen(Qt::yellow, 1));
-            context.drawRect(TSDataManager::dataManager()->canvasFrame);
-        } else {
-            drawTurnedTracker(context, **overlay);
-        }
+        if (m_selection.isContainScriptObject())
+            drawScriptFrame(context, m_state.isInactive);
+        else
+            drawTurnedTracker(context, **overlay, m_state.isInactive);
     }
 }
 

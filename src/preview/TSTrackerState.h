@@ -18,4 +18,6 @@ struct TSTrackerState {
     QRectF boundsRect;
     bool isMultipleChoice = false;
     bool isRotate = false;
+    /// The keys go elsewhere, and what is selected is shown so that nobody takes Delete for its own.
+    bool isInactive = false;
 };

@@ -78,7 +78,7 @@ bool TSCacheFiller::evictPhoto(qint64 index)
     if (item && item->repType == TSRepresentationType::IKImageBrowserPathRepresentationType) {
         data->removePhotoCacheAtIndexOnly(index);
         if (const auto photo = TSPhotoManager::photoManager()->photoAtIndex(index))
-            data->removeCachedPhoto(photo.get());
+            data->removeCachedPhoto(photo);
     }
     return !isStopped();
 }
@@ -103,13 +103,13 @@ bool TSCacheFiller::takePosition(qint64 index)
 {
     TSDataManager *data = TSDataManager::dataManager();
     const auto photo = TSPhotoManager::photoManager()->photoAtIndex(index);
-    if (!photo || !data->itemAtIndex(index) || data->isCachedPhoto(photo.get()))
+    if (!photo || !data->itemAtIndex(index) || data->isCachedPhoto(photo))
         return false;
     if (!isStopped())
         data->cacheAtIndex(index);
     if (!isStopped())
         data->GetPhotoSize(index);
     if (!isStopped())
-        data->addCachedPhoto(photo.get());
+        data->addCachedPhoto(photo);
     return true;
 }

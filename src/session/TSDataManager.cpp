@@ -111,7 +111,7 @@ void TSDataManager::removeItem(const std::shared_ptr<TSImageBrowserItem> &item)
     leaveItem(found);
     TSPhotoManager *photos = TSPhotoManager::photoManager();
     const std::shared_ptr<TSPhoto> photo = photos->photoAtIndex(index);
-    removeCachedPhoto(photo.get());
+    removeCachedPhoto(photo);
     photos->removePhoto(photo);
     photos->renumber();
 }
@@ -167,11 +167,20 @@ QImage TSDataManager::cacheAtIndex(qint64 index)
         image = TSCreateThumbnail(item->path, previewSide);
     else if (item->repType == IKImageBrowserCGImageRepresentationType)
         image = item->cgimage;
-    if (!image.isNull()) {
-        const Lock lock(m_cacheLock);
-        m_cache.insert(item->imageKey(), image);
-    }
+    if (!image.isNull())
+        storeCache(item, image);
     return image;
+}
+
+/// Not of a photo that was removed while it was being decoded: under its path the next one of that file,
+/// which may have changed, would get the old picture.
+void TSDataManager::storeCache(const std::shared_ptr<TSImageBrowserItem> &item, const QImage &image)
+{
+    const Lock lock(m_itemsLock);
+    if (std::find(m_items.begin(), m_items.end(), item) == m_items.end())
+        return;
+    const Lock cacheLock(m_cacheLock);
+    m_cache.insert(item->imageKey(), image);
 }
 
 void TSDataManager::GetPhotoSize(qint64 index)
@@ -190,19 +199,20 @@ void TSDataManager::GetPhotoSize(qint64 index)
     photo->ratio = photo->photoSize.height() / photo->photoSize.width();
 }
 
-bool TSDataManager::isCachedPhoto(const TSPhoto *photo) const
+bool TSDataManager::isCachedPhoto(const std::shared_ptr<TSPhoto> &photo) const
 {
     const Lock lock(m_cacheLock);
     return m_cachedPhotos.count(photo) > 0;
 }
 
-void TSDataManager::addCachedPhoto(const TSPhoto *photo)
+void TSDataManager::addCachedPhoto(const std::shared_ptr<TSPhoto> &photo)
 {
     const Lock lock(m_cacheLock);
+    std::erase_if(m_cachedPhotos, [](const auto &known) { return known.expired(); });
     m_cachedPhotos.insert(photo);
 }
 
-void TSDataManager::removeCachedPhoto(const TSPhoto *photo)
+void TSDataManager::removeCachedPhoto(const std::shared_ptr<TSPhoto> &photo)
 {
     const Lock lock(m_cacheLock);
     m_cachedPhotos.erase(photo);

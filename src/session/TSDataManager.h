@@ -65,9 +65,9 @@ public:
     void GetPhotoSize(qint64 index);
 
     /// The photos that the background filling has handled. The main thread and the worker take turns on it.
-    bool isCachedPhoto(const TSPhoto *photo) const;
-    void addCachedPhoto(const TSPhoto *photo);
-    void removeCachedPhoto(const TSPhoto *photo);
+    bool isCachedPhoto(const std::shared_ptr<TSPhoto> &photo) const;
+    void addCachedPhoto(const std::shared_ptr<TSPhoto> &photo);
+    void removeCachedPhoto(const std::shared_ptr<TSPhoto> &photo);
 
 private:
     using Items = std::vector<std::shared_ptr<TSImageBrowserItem>>;
@@ -75,6 +75,7 @@ private:
     void enterItem(Items::iterator place, std::shared_ptr<TSImageBrowserItem> item);
     void leaveItem(Items::iterator place);
     void releaseCacheOfItem(TSImageBrowserItem &item);
+    void storeCache(const std::shared_ptr<TSImageBrowserItem> &item, const QImage &image);
 
     TSCurrentInstance<TSDataManager> m_current{this};
     mutable std::recursive_mutex m_itemsLock;
@@ -83,5 +84,6 @@ private:
     /// How many items each file has in the list.
     QHash<QString, qint64> m_itemsOfSource;
     QHash<QString, QImage> m_cache;
-    std::set<const TSPhoto *> m_cachedPhotos;
+    /// By their owners: another photo may come to lie where one that has gone was.
+    std::set<std::weak_ptr<TSPhoto>, std::owner_less<>> m_cachedPhotos;
 };

@@ -151,6 +151,25 @@ QString TSMimeTypeOfPath(const QString &path)
     return type.isDefault() ? QString() : type.name();
 }
 
+QStringList TSDistinctNames(const QStringList &paths, qsizetype count)
+{
+    const auto ending = [](const QString &path, qsizetype parts) { return path.section(u'/', -parts); };
+    QHash<QString, QStringList> namesakes;
+    for (const QString &path : paths)
+        namesakes[ending(path, 1)].append(path);
+    QStringList names;
+    for (const QString &path : paths.first(std::min(count, paths.size()))) {
+        const QStringList &others = namesakes[ending(path, 1)];
+        qsizetype parts = 1;
+        while (std::any_of(others.begin(), others.end(), [&](const QString &other) {
+            return other != path && ending(other, parts) == ending(path, parts);
+        }))
+            ++parts;
+        names.append(ending(path, parts));
+    }
+    return names;
+}
+
 QString TSFileSizeText(const QString &path)
 {
     const QFileInfo info(path);

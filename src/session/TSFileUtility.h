@@ -42,6 +42,9 @@ bool TSIsVectorType(unsigned type);
 QString TSMimeTypeOfData(const QByteArray &data);
 /// The MIME type by the extension, or empty.
 QString TSMimeTypeOfPath(const QString &path);
+/// The file names of the first paths, in their order, each with as much of its folder as tells it from others
+/// of that name among all of them.
+QStringList TSDistinctNames(const QStringList &paths, qsizetype count);
 /// The size of a file in words, or nothing when it cannot be read.
 QString TSFileSizeText(const QString &path);
 

@@ -4,17 +4,22 @@
 #include "preview/TSPreview.h"
 #include "profiles/TSProfileLibrary.h"
 #include "profiles/TSProfileSaver.h"
+#include "session/TSLastFolder.h"
 
 #include <memory>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 
 void TSLayoutController::openProfileAction()
 {
-    const QString package =
-        QFileDialog::getExistingDirectory(&m_window, qtTrId("ChooseLayout"), TSProfileLibrary::builtInRoot());
+    const QString package = QFileDialog::getExistingDirectory(
+        &m_window, qtTrId("ChooseLayout"),
+        TSLastFolder(TSFolderUse::Layouts, TSProfileLibrary::builtInRoot()));
     if (package.isEmpty())
         return;
+    // Beside the one that was taken are the others.
+    TSRememberFolder(TSFolderUse::Layouts, QFileInfo(package).absolutePath());
     if (TSProfileLibrary::find(package).isEmpty() || !TSProfileApplier(this).applyProfile(package))
         tell(qtTrId("NoLayout"));
 }
@@ -51,10 +56,7 @@ TSProfileApplierDelegate::Answer TSLayoutController::askToCoverWatermarks()
 
 void TSLayoutController::clearSelection()
 {
-    m_preview.selection().setEditingOverlaysArray({});
-    m_preview.selection().setEditingOverlay(nullptr);
-    m_preview.selection().setEditingText(nullptr);
-    m_preview.selection().setGuideOverlay(nullptr);
+    m_preview.selection().clear();
 }
 
 void TSLayoutController::profileWasApplied()

@@ -15,6 +15,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -23,6 +24,8 @@ namespace {
 
 constexpr QSize leastSize(1024, 680);
 constexpr QSize firstSize(1280, 820);
+/// What a window manager's frame may take on the screen.
+constexpr QSize frameRoom(8, 40);
 constexpr size_t fitItem = 0;
 constexpr size_t separatorItem = 1;
 constexpr size_t firstZoomItem = 2;
@@ -58,8 +61,9 @@ TSMainWindow::TSMainWindow()
 {
     setObjectName(QStringLiteral("MainWindow"));
     setWindowTitle(QStringLiteral("Tessaro"));
-    setMinimumSize(leastSize);
-    resize(firstSize);
+    const QSize room = screen()->availableGeometry().size() - frameRoom;
+    setMinimumSize(leastSize.boundedTo(room));
+    resize(firstSize.boundedTo(room));
     setAcceptDrops(true);
     makePhotoMenu();
     makeEditMenu();

@@ -9,6 +9,7 @@
 #include "preview/TSPhotoDrop.h"
 #include "session/TSDataManager.h"
 #include "session/TSDefaults.h"
+#include "session/TSLastFolder.h"
 #include "session/TSNotificationCenter.h"
 #include "session/TSPhoto.h"
 #include "session/TSPhotoManager.h"
@@ -20,6 +21,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
@@ -29,7 +31,7 @@ namespace {
 
 /// What the decoders read, by the usual extensions in either case; everything else is a choice away, since
 /// files are taken by their contents.
-QString photoFilter()
+QString photoFilter(const QString &title)
 {
     QStringList patterns;
     for (const char *extension : {"jpg", "jpeg", "png", "tif", "tiff", "heic", "heif", "avif", "webp", "gif",
@@ -37,7 +39,7 @@ QString photoFilter()
         const QString pattern = QStringLiteral("*.") + QLatin1String(extension);
         patterns << pattern << pattern.toUpper();
     }
-    return QStringLiteral("%1 (%2);;%3 (*)").arg(qtTrId("Photos"), patterns.join(u' '), qtTrId("AllFiles"));
+    return QStringLiteral("%1 (%2);;%3 (*)").arg(title, patterns.join(u' '), qtTrId("AllFiles"));
 }
 
 /// In the list of zooms.
@@ -238,20 +240,26 @@ void TSMainWindowController::addPhotos(const QList<QUrl> &urls)
 
 void TSMainWindowController::loadPhotoAction()
 {
-    const QList<QUrl> urls =
-        QFileDialog::getOpenFileUrls(m_window.get(), qtTrId("ChoosePhoto"), {}, photoFilter(), nullptr,
-                                     QFileDialog::HideNameFilterDetails);
-    if (!urls.isEmpty() && m_photoIntake)
-        m_photoIntake->loadPhotos(urls);
+    const QUrl folder = QUrl::fromLocalFile(TSLastFolder(TSFolderUse::Photos));
+    const QList<QUrl> urls = QFileDialog::getOpenFileUrls(m_window.get(), qtTrId("ChoosePhoto"), folder,
+                                                          photoFilter(qtTrId("Photos")), nullptr,
+                                                          QFileDialog::HideNameFilterDetails);
+    if (urls.isEmpty() || !m_photoIntake)
+        return;
+    if (urls.first().isLocalFile())
+        TSRememberFolder(TSFolderUse::Photos, QFileInfo(urls.first().toLocalFile()).absolutePath());
+    m_photoIntake->loadPhotos(urls);
 }
 
 void TSMainWindowController::addStickerFromFinder()
 {
-    const QString path =
-        QFileDialog::getOpenFileName(m_window.get(), qtTrId("ChooseImage"), {}, photoFilter(), nullptr,
-                                     QFileDialog::HideNameFilterDetails);
-    if (!path.isEmpty())
-        preview().creation().addStickerWithPath(path, true);
+    const QString path = QFileDialog::getOpenFileName(
+        m_window.get(), qtTrId("ChooseImage"), TSLastFolder(TSFolderUse::Pictures),
+        photoFilter(qtTrId("Pictures")), nullptr, QFileDialog::HideNameFilterDetails);
+    if (path.isEmpty())
+        return;
+    TSRememberFolder(TSFolderUse::Pictures, QFileInfo(path).absolutePath());
+    preview().creation().addStickerWithPath(path, true);
 }
 
 void TSMainWindowController::removePhotosWithSelection(int)
@@ -347,7 +355,7 @@ void TSMainWindowController::releaseShownPhoto()
 
 void TSMainWindowController::emptyEditingOverlaysArray()
 {
-    preview().selection().setEditingOverlaysArray({});
+    preview().selection().clear();
 }
 
 void TSMainWindowController::clearEditingOverlay()

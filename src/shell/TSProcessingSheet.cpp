@@ -1,10 +1,10 @@
 #include "shell/TSProcessingSheet.h"
 
+#include "controls/TSBusyBar.h"
 #include "controls/TSTheme.h"
+#include "session/TSFileUtility.h"
 
-#include <QFileInfo>
 #include <QLabel>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <utility>
@@ -14,14 +14,13 @@ namespace {
 /// As many as a message can hold and still be read.
 constexpr qsizetype longestList = 8;
 constexpr int titleWidth = 420;
-constexpr int barHeight = 8;
 
 } // namespace
 
 TSProcessingSheet::TSProcessingSheet(QWidget *parent)
     : TSSheet(parent)
     , m_tfProcessTitle(new QLabel(this))
-    , m_progessIndicator(new QProgressBar(this))
+    , m_progessIndicator(new TSBusyBar(this))
     , m_btCancelProess(newButton("btCancelProess", qtTrId("Cancel")))
 {
     setObjectName(QStringLiteral("processingWindow"));
@@ -30,8 +29,6 @@ TSProcessingSheet::TSProcessingSheet(QWidget *parent)
     m_tfProcessTitle->setTextFormat(Qt::PlainText);
     m_progessIndicator->setObjectName(QStringLiteral("progessIndicator"));
     m_progessIndicator->setAccessibleName(qtTrId("Loading..."));
-    m_progessIndicator->setTextVisible(false);
-    m_progessIndicator->setFixedHeight(barHeight);
     m_progessIndicator->setRange(0, 0);
     connect(m_btCancelProess, &QPushButton::clicked, this, &TSProcessingSheet::reject);
     auto *row = new QHBoxLayout;
@@ -71,14 +68,22 @@ void TSProcessingSheet::setTitle(const QString &title)
 
 void TSProcessingSheet::addRefusal(const QString &path, const QString &reason)
 {
-    m_refusals.append(QStringLiteral("%1: %2").arg(QFileInfo(path).fileName(), reason));
+    m_refusals.append({path, reason});
 }
 
 QString TSProcessingSheet::takeRefusals()
 {
-    const QStringList refusals = std::exchange(m_refusals, {});
-    const QString rest = refusals.size() > longestList ? QStringLiteral("\n…") : QString();
-    return refusals.mid(0, longestList).join(u'\n') + rest;
+    const QList<Refusal> refusals = std::exchange(m_refusals, {});
+    QStringList paths;
+    for (const Refusal &refusal : refusals)
+        paths.append(refusal.path);
+    const QStringList names = TSDistinctNames(paths, longestList);
+    QStringList lines;
+    for (qsizetype i = 0; i < names.size(); ++i)
+        lines.append(QStringLiteral("%1: %2").arg(names[i], refusals[i].reason));
+    if (refusals.size() > longestList)
+        lines.append(QStringLiteral("…"));
+    return lines.join(u'\n');
 }
 
 void TSProcessingSheet::reject()

@@ -3,11 +3,11 @@
 #include "controls/TSSheet.h"
 
 #include <QElapsedTimer>
-#include <QStringList>
+#include <QList>
 
 class QLabel;
-class QProgressBar;
 class QPushButton;
+class TSBusyBar;
 
 /// The sheet that keeps the user from the photo list while files are taken in, and what there is to tell of
 /// them afterwards. One instance serves all intakes.
@@ -36,9 +36,14 @@ Q_SIGNALS:
     void processWasCancelled();
 
 private:
+    struct Refusal {
+        QString path;
+        QString reason;
+    };
+
     QLabel *m_tfProcessTitle;
-    QProgressBar *m_progessIndicator;
+    TSBusyBar *m_progessIndicator;
     QPushButton *m_btCancelProess;
     QElapsedTimer m_titleTimer;
-    QStringList m_refusals;
+    QList<Refusal> m_refusals;
 };

@@ -67,6 +67,22 @@ QRectF frameOf(const QJsonValue &mark)
 
 } // namespace
 
+/// Before anything is promised or begun, whether it was typed or comes out of a date.
+TEST_F(CommandTest, ANameThatNoFileCanHaveIsRefused)
+{
+    session.writeJpeg("a.jpg", plainImage({60, 40}));
+    for (const char *name : {"x/{Name}", "{Name}_{Modified:MM/dd/yyyy}"})
+        for (const char *way : {"--dry-run", "--json"}) {
+            EXPECT_EQ(
+                run({"--name", QLatin1String(name), "--output", outFolder(), QLatin1String(way)}, {"a.jpg"}),
+                TSBatchStatus::WrongUsage);
+            EXPECT_EQ(output.toStdString(), "");
+            EXPECT_TRUE(errors.contains("has a slash in it")) << errors.toStdString();
+            EXPECT_EQ(files(), QStringList());
+        }
+    EXPECT_EQ(run({"--name", "x-{Name}", "--output", outFolder()}, {"a.jpg"}), TSBatchStatus::AllWritten);
+}
+
 TEST_F(CommandTest, NamesEveryPhotoInTheOrderOfTheList)
 {
     const QByteArray whole = platform::LazyImage::fromImage(noise({600, 400})).encodeJpeg({90, {1, 1}});

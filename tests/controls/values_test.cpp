@@ -1,3 +1,4 @@
+#include "controls/TSBusyBar.h"
 #include "controls/TSNumberField.h"
 #include "controls/TSSegmentedControl.h"
 #include "controls/TSStepper.h"
@@ -138,4 +139,28 @@ TEST(Segments, AnyMayBeOn)
     EXPECT_TRUE(control.isSelected(1));
     EXPECT_EQ(changes.last(), (QVariantList{0, false}));
     EXPECT_EQ(control.segment(1)->accessibleName(), QStringLiteral("Italic"));
+}
+
+/// How far things are nobody can tell, and so the bar never looks as if all were done.
+TEST(BusyBarTest, BeginsEmptyAndIsNeverFull)
+{
+    TSBusyBar bar;
+    bar.setRange(0, 0);
+    bar.resize(200, 8);
+    const auto filled = [&bar] {
+        const QImage shown = bar.grab().toImage();
+        int count = 0;
+        for (int x = 0; x < shown.width(); ++x)
+            count += shown.pixelColor(x, shown.height() / 2) == bar.palette().color(QPalette::Highlight);
+        return double(count) / shown.width();
+    };
+    EXPECT_EQ(filled(), 0);
+    bar.show();
+    double most = 0;
+    for (int look = 0; look < 20; ++look) {
+        QTest::qWait(30);
+        most = std::max(most, filled());
+    }
+    EXPECT_GT(most, 0.1);
+    EXPECT_LT(most, 0.4);
 }

@@ -11,8 +11,9 @@ from pathlib import Path
 
 import numpy
 
-# The window fills the screen, without a frame, so that places in it are places on the screen.
-SIZE = (1280, 820)
+# The window stands in the corner, without a frame, so that places in it are places on the screen, which has room for a
+# frame all the same.
+SIZE = (1300, 880)
 MANAGER = """<openbox_config xmlns="http://openbox.org/3.4/rc">
 <keyboard><keybind key="A-F4"><action name="Close"/></keybind></keyboard>
 <applications><application title="Tessaro" type="normal"><decor>no</decor>

@@ -75,7 +75,13 @@ TEST_F(ManagerTest, HierarchyChanges)
         // Out of the list there is no place.
         {"ABC", "A", -1, "ABC"},
         {"ABC", "C", 1, "ABC"},
-        {"ABCD", "AB", 1, "ABCD"},
+        {"ABCD", "CD", 1, "ABCD"},
+        {"ABCD", "DC", 1, "ABCD"},
+        // Neighbours, in whatever order they were chosen.
+        {"ABC", "BC", -1, "BCA"},
+        {"ABC", "CB", -1, "BCA"},
+        {"ABCD", "AB", 1, "CABD"},
+        {"ABCDE", "BCD", 1, "AEBCD"},
     };
     for (const auto &[list, selection, d, result] : cases) {
         fill(list);

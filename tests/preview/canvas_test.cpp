@@ -63,6 +63,17 @@ TEST_F(CanvasTest, FixedZoomsGrowThePreviewAndLightTheirEntries)
     EXPECT_EQ(session.data.photoRatioOfSize, 0.75);
 }
 
+TEST_F(CanvasTest, AtAFixedZoomThePreviewFollowsTheWindowAtOnce)
+{
+    zoom("50%");
+    for (const QSizeF size : {QSizeF(1200, 900), QSizeF(700, 500), QSizeF(1000, 800)}) {
+        view.visible.setSize(size);
+        Q_EMIT session.center.TSWindowWillResizeOrZooming();
+        EXPECT_EQ(view.previewFrame.size(), size);
+        expectNear(session.data.canvasFrame.center(), {size.width() / 2, size.height() / 2});
+    }
+}
+
 TEST_F(CanvasTest, AFixedZoomGoesFromPhotoToPhotoAndFitDoesNot)
 {
     addPhoto({2000, 1000});

@@ -146,6 +146,16 @@ TEST_F(CreationTest, TheLayersShowWhatTheyAreToShow)
     EXPECT_EQ(extentOf(image, Qt::red), QRect(100, 300, 150, 50)) << "within the canvas alone";
     EXPECT_EQ(extentOf(image, Qt::blue), QRect(150, 300, 30, 50)) << "index 0 on top";
 
+    // A part of the canvas that the frame lies below, and the turned mark does not.
+    blue->setFrame({400, 400, 300, 20});
+    blue->setAngle(1.5707963267948966);
+    QImage part = plainImage({1000, 800}, Qt::white);
+    painter.begin(&part);
+    preview.overlaysLayer().drawRect(painter, {0, 0, 1000, 350});
+    painter.end();
+    EXPECT_EQ(extentOf(part, Qt::blue).top(), 260);
+    blue->setAngle(0);
+
     const QColor node = QColor::fromRgbF(0.3f, 0.8f, 0.3f);
     const QColor auxiliary = QColor::fromRgb(88, 194, 11);
     named['A'] = blue;
@@ -174,5 +184,12 @@ TEST_F(CreationTest, TheLayersShowWhatTheyAreToShow)
         EXPECT_EQ(extentOf(layer, node), nodes);
         EXPECT_EQ(extentOf(layer, Qt::yellow), lines);
         EXPECT_EQ(extentOf(layer, auxiliary).isNull(), !showsAuxiliary);
+        preview.trackerState().isInactive = true;
+        layer.fill(Qt::black);
+        painter.begin(&layer);
+        preview.trackerLayer().drawTrackers(painter);
+        painter.end();
+        EXPECT_TRUE(extentOf(layer, node).isNull() && extentOf(layer, Qt::yellow).isNull());
+        preview.trackerState().isInactive = false;
     }
 }

@@ -44,9 +44,11 @@ TEST_F(DraggingTest, AMoveTakesAllAlongAndMeasuresThemAgain)
     EXPECT_TRUE(session.data.isDragging);
 
     preview.trackerState().alignmentLines.emplace_back();
+    const int redraws = view.trackerRedraws;
     drag({80, 225}, TSModifier::Shift);
     expectRect(lead->frame(), 0.25, 200, 100, 50);
     EXPECT_TRUE(preview.trackerState().alignmentLines.empty());
+    EXPECT_GT(view.trackerRedraws, redraws) << "the lines are to go from the screen too";
     drag({51.25, 225});
     expectRect(lead->frame(), 1.25, 200, 100, 50);
     preview.mouseUp();

@@ -55,3 +55,25 @@ TEST_F(OffsetTest, SeveralMoveAsOneBlock)
     expectNear(b->frame().topLeft(), {800, 760}, 1e-4);
     EXPECT_EQ(a->wmAlignment(), TSPositionCode::RightBottom);
 }
+
+/// However far they go, and whichever anchor comes nearer on the way: each step is as long as the first.
+TEST_F(OffsetTest, SeveralGoStepByStepAcrossTheCanvas)
+{
+    session.setCanvas({0, 0, 1000, 800}, 0.5);
+    for (const unsigned unit : {TSOffsetUnit::Percentage, TSOffsetUnit::Pixel}) {
+        session.data.pUnit = unit;
+        session.overlays.removeAllOverlay();
+        const auto a = put('A', {10, 20, 100, 40}), b = put('B', {60, 100, 100, 40});
+        preview.selection().selectAllOverlays();
+        const double step = unit == TSOffsetUnit::Percentage ? 2.5 : -0.5;
+        const int key = unit == TSOffsetUnit::Percentage ? Qt::Key_Right : Qt::Key_Left;
+        for (int count = 1; count <= 300; ++count) {
+            pressKey(key);
+            const double expected =
+                unit == TSOffsetUnit::Percentage ? count * step : std::max(-10.0, count * step);
+            ASSERT_NEAR(a->frame().x() - 10, expected, 0.03 * count) << count;
+            expectNear(b->frame().topLeft() - a->frame().topLeft(), {50, 80}, 1e-3);
+        }
+        expectNear({a->frame().y(), b->frame().y()}, {20, 100}, 1e-3);
+    }
+}

@@ -1,6 +1,7 @@
 #include "support/PreviewSession.h"
 
 #include <cmath>
+#include <functional>
 #include <numbers>
 
 using enum TSCursor;
@@ -137,6 +138,33 @@ TEST_F(PointingTest, PressesSelect)
     hover(outside);
     EXPECT_EQ(preview.gesture().draggingNode, 9);
     EXPECT_FALSE(preview.gesture().isInOverlay);
+}
+
+/// What the mouse was on goes with the marks, whoever takes them away.
+TEST_F(PointingTest, NoNodeIsLeftOfAMarkThatIsGone)
+{
+    const std::pair<const char *, std::function<void()>> ways[] = {
+        {"deleted", [this] { preview.creation().deleteEditingOverlay(); }},
+        {"let go", [this] { preview.selection().selectOverlay(nullptr); }},
+        {"list emptied", [this] { preview.selection().clear(); }},
+    };
+    for (const auto &[way, empty] : ways) {
+        SCOPED_TRACE(way);
+        session.overlays.removeAllOverlay();
+        put('A', {300, 300, 100, 50});
+        put('B', {500, 500, 100, 50});
+        select("A", 'A');
+        hover({400, 350});
+        press({400, 350});
+        drag({420, 360});
+        preview.mouseUp();
+        empty();
+        hover({550, 525});
+        press({550, 525});
+        EXPECT_EQ(selected(), "B");
+        drag({560, 535});
+        expectRect(named['B']->frame(), 510, 510, 100, 50);
+    }
 }
 
 TEST_F(PointingTest, TheMarqueeTakesWhatItMeets)

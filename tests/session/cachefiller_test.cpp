@@ -32,7 +32,7 @@ protected:
     {
         std::set<qint64> indexes;
         for (qint64 i = 0; i < session.photos.photoCount(); ++i)
-            if (session.data.isCachedPhoto(session.photos.photoAtIndex(i).get()))
+            if (session.data.isCachedPhoto(session.photos.photoAtIndex(i)))
                 indexes.insert(i);
         return indexes;
     }

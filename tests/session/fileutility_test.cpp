@@ -1,4 +1,5 @@
 #include "session/TSFileUtility.h"
+#include "session/TSLastFolder.h"
 #include "support/Session.h"
 
 #include <QDir>
@@ -82,6 +83,30 @@ TEST_F(FileUtilityTest, FreeNames)
         session.write(QStringLiteral("a_%1.jpg").arg(number, 3, 10, QLatin1Char('0')), {});
     EXPECT_EQ(TSUniquePath(session.folder.path(), QStringLiteral("a"), QStringLiteral("jpg")),
               full(u"a_1000"));
+}
+
+TEST_F(FileUtilityTest, NamesakesAreToldWithTheirFolders)
+{
+    const QStringList paths{"/p/README", "/p/q/README", "/r/q/README", "/a/b.jpg", "/a/b.jpg", "/c/b.jpg"};
+    EXPECT_EQ(TSDistinctNames(paths, 5),
+              (QStringList{"p/README", "p/q/README", "r/q/README", "a/b.jpg", "a/b.jpg"}));
+    EXPECT_EQ(TSDistinctNames({"/a/b.jpg", "/a/b.jpg"}, 9), (QStringList{"b.jpg", "b.jpg"}));
+}
+
+/// Each use has its own, and one that has gone is no help to anybody.
+TEST_F(FileUtilityTest, EveryUseRemembersItsFolder)
+{
+    const QString one = session.path("one"), two = session.path("two");
+    QDir().mkpath(one);
+    QDir().mkpath(two);
+    EXPECT_EQ(TSLastFolder(TSFolderUse::Layouts, two), two);
+    TSRememberFolder(TSFolderUse::Photos, one);
+    TSRememberFolder(TSFolderUse::Output, two);
+    EXPECT_EQ(TSLastFolder(TSFolderUse::Photos), one);
+    EXPECT_EQ(TSLastFolder(TSFolderUse::Output), two);
+    EXPECT_EQ(TSLastFolder(TSFolderUse::Pictures), TSLastFolder(TSFolderUse::Layouts));
+    QDir().rmdir(one);
+    EXPECT_EQ(TSLastFolder(TSFolderUse::Photos, two), two);
 }
 
 TEST_F(FileUtilityTest, LaunchDefaults)

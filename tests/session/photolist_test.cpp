@@ -1,6 +1,9 @@
 #include "platform/Vips.h"
 #include "support/Session.h"
 
+#include <future>
+#include <QThread>
+
 using enum TSRepresentationType;
 
 namespace {
@@ -54,15 +57,57 @@ TEST_F(PhotoListTest, RemovalRenumbers)
     session.addPhotos(6);
     const auto kept = session.photos.photoAtIndex(5);
     const auto cached = session.photos.photoAtIndex(1);
-    session.data.addCachedPhoto(cached.get());
-    session.data.addCachedPhoto(kept.get());
+    session.data.addCachedPhoto(cached);
+    session.data.addCachedPhoto(kept);
     session.data.removePhotosWithIndexSet({1, 4});
     EXPECT_EQ(session.order(), "0235");
     EXPECT_EQ(kept->index, 3);
-    EXPECT_FALSE(session.data.isCachedPhoto(cached.get()));
-    EXPECT_TRUE(session.data.isCachedPhoto(kept.get()));
+    EXPECT_FALSE(session.data.isCachedPhoto(cached));
+    EXPECT_TRUE(session.data.isCachedPhoto(kept));
     EXPECT_TRUE(session.data.isHasItem(QStringLiteral("/photos/3.jpg")));
     EXPECT_FALSE(session.data.isHasItem(QStringLiteral("/photos/1.jpg")));
+}
+
+/// Of a photo that is taken off the list while it is decoded nothing stays behind, neither its picture nor
+/// the word that it has one.
+TEST_F(PhotoListTest, APhotoRemovedMeanwhileLeavesNothing)
+{
+    const QString path = session.path("slow.png");
+    const auto add = [&] {
+        auto item = std::make_shared<TSImageBrowserItem>();
+        item->path = item->resourePath = path;
+        item->repType = TSRepresentationType::IKImageBrowserPathRepresentationType;
+        session.data.addItem(item);
+        session.photos.addPhoto(std::make_shared<TSPhoto>());
+        session.photos.renumber();
+    };
+    const QByteArray slow = bytesOf(session.writePng("slow.png", plainImage({4000, 4000}, Qt::red)));
+    bool wasMeanwhile = false;
+    for (int wait = 5; wait < 100 && !wasMeanwhile; wait += 5) {
+        session.write("slow.png", slow);
+        add();
+        auto decoded = std::async(std::launch::async, [this] { return session.data.cacheAtIndex(0); });
+        QThread::msleep(ulong(wait));
+        wasMeanwhile = decoded.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
+        session.data.removePhotoAtIndex(0);
+        wasMeanwhile = wasMeanwhile && !decoded.get().isNull();
+        session.writePng("slow.png", plainImage({40, 40}, Qt::blue));
+        add();
+        EXPECT_EQ(session.data.cacheAtIndex(0).pixelColor(0, 0), QColor(Qt::blue));
+        session.data.removePhotoAtIndex(0);
+    }
+    EXPECT_TRUE(wasMeanwhile);
+
+    // The background filling may come to its end after the photo has. Another one lies where it lay before
+    // long.
+    auto gone = std::make_shared<TSPhoto>();
+    const auto *place = gone.get();
+    session.data.addCachedPhoto(gone);
+    gone.reset();
+    std::vector<std::shared_ptr<TSPhoto>> next(1);
+    while (next.back().get() != place && next.size() < 1000)
+        next.push_back(std::make_shared<TSPhoto>());
+    EXPECT_FALSE(session.data.isCachedPhoto(next.back()));
 }
 
 TEST_F(PhotoListTest, DroppedPhotosLeaveTheSelectionOnItsPicture)

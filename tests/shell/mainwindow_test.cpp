@@ -21,6 +21,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTest>
 #include <QTimer>
@@ -247,6 +248,50 @@ TEST_F(MainWindowTest, ZoomAndWindowKeepTheMarkOnThePhoto)
     EXPECT_LT(session.data.canvasFrame.bottom(), window().preview->viewport()->height());
 }
 
+TEST_F(MainWindowTest, TheFirstWindowFitsTheScreen)
+{
+    const QRect room = window().screen()->availableGeometry();
+    const TSMainWindow first;
+    EXPECT_LT(first.width(), room.width());
+    EXPECT_LT(first.height(), room.height());
+    EXPECT_LE(first.minimumWidth(), first.width());
+}
+
+/// At every zoom, and whichever bars were there before.
+TEST_F(MainWindowTest, TheCanvasIsInTheMiddleOfTheWindowAtOnce)
+{
+    addPhotos({session.writePng("a.png", plainImage({900, 600}))});
+    const auto zoom = [this](const char *title) {
+        preview().presenter().zoomingTheSize(QString::fromLatin1(title));
+    };
+    const auto expectCentred = [this] {
+        const QScrollBar *x = window().preview->horizontalScrollBar();
+        const QScrollBar *y = window().preview->verticalScrollBar();
+        const QSize visible = window().preview->viewport()->size();
+        const QPointF middle = session.data.canvasFrame.center() - QPointF(x->value(), y->value());
+        expectNear(middle, QPointF(visible.width(), visible.height()) / 2, 1);
+        const QSizeF &canvas = session.data.canvasFrame.size();
+        EXPECT_EQ(x->isVisible(), canvas.width() > visible.width());
+        EXPECT_EQ(y->isVisible(), canvas.height() > visible.height());
+    };
+    for (const char *title : {"400%", "50%", "100%", "400%", "Fit"}) {
+        SCOPED_TRACE(title);
+        zoom(title);
+        expectCentred();
+    }
+    const QRectF fitted = session.data.canvasFrame;
+    zoom("Fit");
+    EXPECT_EQ(session.data.canvasFrame, fitted) << "the bars of 400% were still there at the first time";
+    for (const char *title : {"50%", "100%", "200%"})
+        for (const QSize size : {QSize(1300, 830), QSize(1040, 690), QSize(1280, 820)}) {
+            SCOPED_TRACE(testing::Message() << title << ' ' << size.width());
+            zoom(title);
+            window().resize(size);
+            QApplication::processEvents();
+            expectCentred();
+        }
+}
+
 /// An edge that is enlarged from fewer pixels rises over several.
 TEST_F(MainWindowTest, MarksHaveThePixelsOfTheScreen)
 {
@@ -311,6 +356,34 @@ TEST_F(MainWindowTest, MarksAreToldToAssistiveTechnology)
     EXPECT_EQ(canvas->focusChild(), canvas->child(1));
     QTest::keyClick(window().preview, Qt::Key_Delete);
     EXPECT_EQ(canvas->childCount(), 1);
+}
+
+/// Delete acts where the frame shows it: on the mark as long as it has its nodes, and else on the photo.
+TEST_F(MainWindowTest, TheFrameTellsWhereTheKeysGo)
+{
+    addPhotos({session.writePng("a.png", plainImage({900, 600}, Qt::white)),
+               session.writePng("b.png", plainImage({900, 600}, Qt::white))});
+    preview().creation().addStickerWithPath(session.writePng("mark.png", plainImage({40, 20}, Qt::red)),
+                                            true);
+    const auto hasNodes = [this] {
+        const QImage shown = window().preview->viewport()->grab().toImage();
+        return !extentOf(shown, QColor::fromRgbF(0.3f, 0.8f, 0.3f)).isNull();
+    };
+    QWidget *strip = window().photoStrip->ibvList();
+    QTest::mouseClick(window().preview->viewport(), Qt::LeftButton, {},
+                      session.overlays.overlayAtIndex(0)->frame().center().toPoint());
+    EXPECT_TRUE(hasNodes());
+    strip->setFocus();
+    EXPECT_FALSE(hasNodes());
+    QTest::keyClick(strip, Qt::Key_Delete);
+    EXPECT_EQ(session.data.photoCount(), 1);
+    EXPECT_EQ(session.overlays.overlayCount(), 1);
+    QTest::mouseClick(window().preview->viewport(), Qt::LeftButton, {},
+                      session.overlays.overlayAtIndex(0)->frame().center().toPoint());
+    EXPECT_TRUE(hasNodes());
+    QTest::keyClick(window().focusWidget(), Qt::Key_Delete);
+    EXPECT_EQ(session.data.photoCount(), 1);
+    EXPECT_EQ(session.overlays.overlayCount(), 0);
 }
 
 /// Everything that the mouse does to marks.

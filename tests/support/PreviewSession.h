@@ -16,6 +16,7 @@ public:
     TSResponder responder = TSResponder::Preview;
     QRectF previewFrame;
     QPointF scrolledTo;
+    int trackerRedraws = 0;
 
     QRectF superviewFrame() const override { return visible; }
     QRectF superviewBounds() const override { return visible; }
@@ -23,7 +24,7 @@ public:
     void scrollToPoint(const QPointF &point) override { scrolledTo = point; }
     void redrawCanvasView() override {}
     void redrawOverlaysView() override {}
-    void redrawTrackerView() override {}
+    void redrawTrackerView() override { ++trackerRedraws; }
     TSCursor currentCursor() const override { return cursor; }
     void setCursor(TSCursor shape) override { cursor = shape; }
     void makeFirstResponder(TSResponder who) override { responder = who; }

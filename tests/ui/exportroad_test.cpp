@@ -107,6 +107,52 @@ protected:
 
 } // namespace
 
+/// What became of the photos, by number; and of which names what is told.
+TEST_F(ExportRoadTest, CountsAndNamesAreTold)
+{
+    using Status = TSExportOutcome::Status;
+    TSExportReport report;
+    const std::tuple<const char *, Status, const char *> photos[] = {
+        {"/x/one/a.jpg", Status::Written, ""},       {"/x/one/b.jpg", Status::Failed, "bad"},
+        {"/x/two/b.jpg", Status::Failed, "worse"},   {"/y/two/b.jpg", Status::Failed, "worst"},
+        {"/x/one/c.jpg", Status::Failed, "unlucky"}, {"/x/one/d.jpg", Status::Skipped, "gone"},
+    };
+    for (const auto &[path, status, reason] : photos) {
+        TSExportOutcome outcome;
+        outcome.status = status;
+        outcome.reason = QLatin1String(reason);
+        report.add(QLatin1String(path), outcome);
+    }
+    EXPECT_EQ(report.counts(), "1 written, 4 failed, 1 skipped");
+    EXPECT_EQ(report.sentences(), "one/b.jpg: bad\nx/two/b.jpg: worse\ny/two/b.jpg: worst\nc.jpg: unlucky\n"
+                                  "d.jpg: The file of the photo is no longer there.");
+    session.write("out/b.jpg", "taken");
+    start();
+    ASSERT_TRUE(QTest::qWaitFor([] { return shown("otherButton") != nullptr; }, 120000));
+    EXPECT_EQ(text("messageText"), "A file named b.jpg is there already");
+    click("defaultButton");
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(text("tfCounts"), "3 written, 0 failed, 0 skipped");
+    closeResult();
+}
+
+TEST_F(ExportRoadTest, ACancelTellsWhatHadFailedBefore)
+{
+    session.write("a.png", "no picture");
+    const auto trap = addTrap();
+    start();
+    trap->letGo.release();
+    trap->reached.acquire(2);
+    QTest::keyClick(shown("ProgressBarWindow"), Qt::Key_Escape);
+    click("defaultButton");
+    trap->letGo.release(100);
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(text("messageText"), "1 photo was not exported");
+    EXPECT_EQ(text("informativeText").substr(0, 7), "a.png: ");
+    click("defaultButton");
+    session.overlays.removeOverlay(trap);
+}
+
 TEST_F(ExportRoadTest, TwoRunsInARowAskOnceAboutTakenNames)
 {
     const std::tuple<const char *, const char *, const char *> rows[] = {

@@ -148,6 +148,38 @@ TEST_F(FormatWindowTest, TokensAndTheirVariantsMakeTheNames)
     EXPECT_EQ(names(), "");
 }
 
+/// Typed or out of a date: told where the name is made, and nothing is begun.
+TEST_F(FormatWindowTest, ANameThatNoFileCanHaveKeepsTheExportBack)
+{
+    const QSignalSpy panels(&session.center, &TSNotificationCenter::TSOpenSavePanel);
+    const int height = sheet->height();
+    const auto expectRefusal = [&](const char *name) {
+        const std::string told =
+            name ? "“" + std::string(name) + "” has a slash in it, which no file name can have." : "";
+        EXPECT_EQ(child<QLabel>("tfRefusal")->text().toStdString(), told);
+        EXPECT_EQ(child<QWidget>("btOK")->isEnabled(), !name);
+        if (name)
+            sheet->accept();
+        EXPECT_EQ(panels.count(), 0);
+        QApplication::processEvents();
+        EXPECT_EQ(sheet->height(), height);
+    };
+    expectRefusal(nullptr);
+    QTest::keyClicks(child<QWidget>("tfInput"), "/x");
+    expectRefusal("Alpha/x");
+    QTest::keyClick(child<QWidget>("tfInput"), Qt::Key_Backspace);
+    QTest::keyClick(child<QWidget>("tfInput"), Qt::Key_Backspace);
+    expectRefusal(nullptr);
+    // Of the second photo alone, since the first has no date.
+    session.data.itemAtIndex(0)->fileAttributesDic.clear();
+    session.data.itemAtIndex(1)->fileAttributesDic.insert(TSFileAttribute::CreationDate.toString(),
+                                                          QDateTime(QDate(2026, 3, 5), QTime(12, 0)));
+    click("tfDateCreated");
+    chooseVariant(3);
+    expectRefusal("Beta03/05/2026");
+    EXPECT_TRUE(sheet->isVisible());
+}
+
 TEST_F(FormatWindowTest, FormatsOtherThanJpgKeepTheQualityAndLockIt)
 {
     const std::tuple<const char *, unsigned, bool> formats[] = {

@@ -3,15 +3,14 @@
 #include "controls/TSCheckBoxAlert.h"
 #include "platform/UserDefaults.h"
 #include "session/TSDataManager.h"
+#include "session/TSLastFolder.h"
 #include "session/TSNotificationCenter.h"
 #include "ui/export/TSFormatWindowController.h"
 #include "ui/export/TSProgressBarWindowController.h"
 #include "ui/export/TSSaveInfoWindowController.h"
 
-#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QStandardPaths>
 
 namespace {
 
@@ -22,11 +21,11 @@ TSDataManager *session()
     return TSDataManager::dataManager();
 }
 
-/// Not every desktop makes the folder that it names for pictures, and one that is not there cannot be chosen.
-QString firstFolder()
+/// A long name would leave the question, which is as wide as its words.
+QString shortened(const QString &name)
 {
-    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-    return QFileInfo(pictures).isDir() ? pictures : QDir::homePath();
+    constexpr qsizetype part = 20;
+    return name.size() > 2 * part + 1 ? name.left(part) + u'…' + name.right(part) : name;
 }
 
 } // namespace
@@ -100,7 +99,7 @@ QFileDialog *TSExportController::savePanel()
 {
     if (m_savePanel)
         return m_savePanel;
-    m_savePanel = new QFileDialog(&m_window, qtTrId("ChooseFolder"), firstFolder());
+    m_savePanel = new QFileDialog(&m_window, qtTrId("ChooseFolder"));
     m_savePanel->setObjectName(QStringLiteral("savePanel"));
     m_savePanel->setFileMode(QFileDialog::Directory);
     m_savePanel->setOption(QFileDialog::ShowDirsOnly);
@@ -115,7 +114,13 @@ QFileDialog *TSExportController::savePanel()
 void TSExportController::closeFormatWindow()
 {
     if (m_formatWC->isSavePhotos())
-        savePanel()->open();
+        openSavePanel();
+}
+
+void TSExportController::openSavePanel()
+{
+    savePanel()->setDirectory(TSLastFolder(TSFolderUse::Output));
+    savePanel()->open();
 }
 
 void TSExportController::savePanelDidEnd(int result)
@@ -129,6 +134,7 @@ void TSExportController::savePanelDidEnd(int result)
 void TSExportController::start(const QString &folder)
 {
     m_folder = folder;
+    TSRememberFolder(TSFolderUse::Output, folder);
     m_report = TSExportReport();
     m_isQuitting = false;
     m_run = std::make_unique<TSExportRun>(static_cast<TSExportHost &>(*this));
@@ -156,18 +162,18 @@ void TSExportController::end()
         m_pbWC->endSheet();
     const bool wasCancelled = m_run->isCancelled;
     m_run.reset();
-    if (!wasCancelled)
-        reportFailures();
-    else if (m_isQuitting)
+    if (wasCancelled && m_isQuitting)
         Q_EMIT runWasQuit();
+    else
+        reportFailures(wasCancelled);
 }
 
 /// A photo that failed is told of, also where no result sheet comes.
-void TSExportController::reportFailures()
+void TSExportController::reportFailures(bool wasCancelled)
 {
     const bool neverBegan = m_report.writtenCount() + m_report.missedCount() == 0;
     if (const QString reason = TSExportReport::folderReason(m_folder);
-        neverBegan && !reason.isEmpty() && !session()->exportNames.isEmpty())
+        !wasCancelled && neverBegan && !reason.isEmpty() && !session()->exportNames.isEmpty())
         m_report.addAll(session()->photoCount(), reason);
     if (m_report.failedCount() == 0 || m_saveInfoWC->isVisible())
         return;
@@ -210,15 +216,15 @@ void TSExportController::sourceIsMissing(const QString &)
     m_questions.ask(newAlert, TSCheckBoxAlert::DefaultReturn);
 }
 
-int TSExportController::nameIsTaken(const QString &)
+int TSExportController::nameIsTaken(const QString &path)
 {
     static_assert(int(TSCheckBoxAlert::DefaultReturn) == TSConflictChoice::Rename &&
                   int(TSCheckBoxAlert::AlternateReturn) == TSConflictChoice::Stop &&
                   int(TSCheckBoxAlert::OtherReturn) == TSConflictChoice::Replace);
-    const auto newAlert = [this] {
-        auto *alert = TSCheckBoxAlert::alertWithMessageText(qtTrId("NameRepetitionTitle"), qtTrId("Rename"),
-                                                            qtTrId("Stop"), qtTrId("Replace"),
-                                                            qtTrId("NameRepetition"), m_pbWC);
+    const auto newAlert = [this, path] {
+        auto *alert = TSCheckBoxAlert::alertWithMessageText(
+            qtTrId("NameRepetitionTitle").arg(shortened(QFileInfo(path).fileName())), qtTrId("Rename"),
+            qtTrId("Stop"), qtTrId("Replace"), qtTrId("NameRepetition"), m_pbWC);
         alert->setEscapeAnswer(TSCheckBoxAlert::AlternateReturn);
         return alert;
     };
@@ -228,7 +234,7 @@ int TSExportController::nameIsTaken(const QString &)
 void TSExportController::photoIsDone(qint64 index, const TSExportOutcome &outcome)
 {
     const auto item = session()->itemAtIndex(index);
-    m_report.add(item ? QFileInfo(item->path).fileName() : QString(), outcome);
+    m_report.add(item ? item->path : QString(), outcome);
     onMainThread([this, index] { m_launcher.show(double(index + 1) / double(session()->photoCount())); });
 }
 

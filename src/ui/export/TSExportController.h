@@ -53,10 +53,11 @@ Q_SIGNALS:
 private:
     QFileDialog *savePanel();
     void closeFormatWindow();
+    void openSavePanel();
     void savePanelDidEnd(int result);
     void start(const QString &folder);
     void end();
-    void reportFailures();
+    void reportFailures(bool wasCancelled);
     void onMainThread(const std::function<void()> &block);
 
     // On the thread of the run.

@@ -1,12 +1,14 @@
 #include "ui/export/TSExportReport.h"
 
+#include "session/TSFileUtility.h"
+
 #include <QFileInfo>
 
 using Status = TSExportOutcome::Status;
 
 namespace {
 
-constexpr size_t mostSentences = 5;
+constexpr qsizetype mostSentences = 5;
 
 QString reasonOf(const TSExportOutcome &outcome)
 {
@@ -26,14 +28,14 @@ QString TSExportReport::folderReason(const QString &folder)
     return info.isWritable() ? QString() : qtTrId("FolderIsReadOnly").arg(folder);
 }
 
-void TSExportReport::add(const QString &photoName, const TSExportOutcome &outcome)
+void TSExportReport::add(const QString &photoPath, const TSExportOutcome &outcome)
 {
     if (outcome.status == Status::Written) {
         ++m_writtenCount;
         return;
     }
     m_failedCount += outcome.status == Status::Failed;
-    miss(photoName, reasonOf(outcome), 1);
+    miss(photoPath, reasonOf(outcome), 1);
 }
 
 void TSExportReport::addAll(qint64 photoCount, const QString &reason)
@@ -42,7 +44,7 @@ void TSExportReport::addAll(qint64 photoCount, const QString &reason)
     miss({}, reason, photoCount);
 }
 
-void TSExportReport::miss(const QString &photoName, const QString &reason, qint64 count)
+void TSExportReport::miss(const QString &photoPath, const QString &reason, qint64 count)
 {
     m_missedCount += count;
     const auto known = std::find_if(m_missed.begin(), m_missed.end(),
@@ -50,17 +52,31 @@ void TSExportReport::miss(const QString &photoName, const QString &reason, qint6
     if (known != m_missed.end())
         known->count += count;
     else
-        m_missed.push_back({reason, photoName, count});
+        m_missed.push_back({reason, photoPath, count});
+}
+
+QString TSExportReport::counts() const
+{
+    return qtTrId("ExportCounts").arg(m_writtenCount).arg(m_failedCount).arg(m_missedCount - m_failedCount);
+}
+
+QStringList TSExportReport::photoNames() const
+{
+    QStringList paths;
+    for (const Missed &missed : m_missed)
+        paths.append(missed.photoPath);
+    return TSDistinctNames(paths, mostSentences);
 }
 
 QString TSExportReport::sentences() const
 {
     QStringList lines;
     qint64 told = 0;
-    for (size_t i = 0; i < m_missed.size() && i < mostSentences; ++i) {
+    const QStringList names = photoNames();
+    for (size_t i = 0; i < size_t(names.size()); ++i) {
         const Missed &missed = m_missed[i];
-        const QString who = missed.count == 1 && !missed.photoName.isEmpty()
-                                ? missed.photoName
+        const QString who = missed.count == 1 && !missed.photoPath.isEmpty()
+                                ? names[qsizetype(i)]
                                 : qtTrId("PhotoCount", int(missed.count));
         lines.append(QStringLiteral("%1: %2").arg(who, missed.reason));
         told += missed.count;

@@ -9,7 +9,7 @@
 /// ended.
 class TSExportReport {
 public:
-    void add(const QString &photoName, const TSExportOutcome &outcome);
+    void add(const QString &photoPath, const TSExportOutcome &outcome);
     /// A run that could not even begin.
     void addAll(qint64 photoCount, const QString &reason);
 
@@ -18,18 +18,21 @@ public:
     qint64 failedCount() const { return m_failedCount; }
     /// These, and the photos whose file had gone.
     qint64 missedCount() const { return m_missedCount; }
+    /// How many were written, failed and were passed over.
+    QString counts() const;
     /// One sentence a reason, with the photo's name or how many photos it kept from being written; no more
-    /// than fit on a sheet.
+    /// than fit on a sheet. Of photos of one name each is told with its folder.
     QString sentences() const;
 
     static QString folderReason(const QString &folder);
 
 private:
-    void miss(const QString &photoName, const QString &reason, qint64 count);
+    QStringList photoNames() const;
+    void miss(const QString &photoPath, const QString &reason, qint64 count);
 
     struct Missed {
         QString reason;
-        QString photoName;
+        QString photoPath;
         qint64 count = 0;
     };
 

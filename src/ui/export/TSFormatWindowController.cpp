@@ -136,6 +136,8 @@ QLayout *TSFormatWindowController::newButtons()
     btOK->setDefault(true);
     connect(btCancel, &QPushButton::clicked, this, &TSFormatWindowController::clickCancel);
     connect(btOK, &QPushButton::clicked, this, &TSFormatWindowController::clickOK);
+    btOK->setEnabled(m_pattern->isPossible());
+    connect(m_pattern, &TSNamePatternView::isPossibleChanged, btOK, &QPushButton::setEnabled);
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(TSTheme::spacing);
     buttons->addStretch();
@@ -152,6 +154,8 @@ void TSFormatWindowController::setPhotoCount(qint64 count)
 
 void TSFormatWindowController::clickOK()
 {
+    if (!m_pattern->isPossible())
+        return;
     m_isSavePhotos = true;
     done(Accepted);
     Q_EMIT TSNotificationCenter::defaultCenter()->TSOpenSavePanel();

@@ -4,6 +4,8 @@
 #include "controls/TSTokenField.h"
 #include "controls/TSTokenPill.h"
 #include "naming/TSNamePattern.h"
+#include "naming/TSNameRefusal.h"
+#include "session/TSDataManager.h"
 #include "session/TSNotificationCenter.h"
 
 #include <QGridLayout>
@@ -79,6 +81,7 @@ TSNamePatternView::TSNamePatternView(TSNamePattern &pattern, QWidget *parent)
     , m_labels{newLabel(qtTrId("OutputName"), this), newLabel(qtTrId("Example"), this)}
     , m_tfInput(new TSTokenField(this))
     , m_tfExample(new QLabel(this))
+    , m_tfRefusal(new QLabel(this))
 {
     m_tfInput->setObjectName(QStringLiteral("tfInput"));
     m_tfInput->setAccessibleName(qtTrId("OutputName"));
@@ -89,6 +92,9 @@ TSNamePatternView::TSNamePatternView(TSNamePattern &pattern, QWidget *parent)
     m_tfExample->setTextFormat(Qt::PlainText);
     // A long name is cut off; it shall not widen the sheet.
     m_tfExample->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_tfRefusal->setObjectName(QStringLiteral("tfRefusal"));
+    m_tfRefusal->setTextFormat(Qt::PlainText);
+    m_tfRefusal->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(TSTheme::margin);
@@ -99,6 +105,8 @@ TSNamePatternView::TSNamePatternView(TSNamePattern &pattern, QWidget *parent)
     grid->addWidget(newPalette(), 1, 1);
     grid->addWidget(m_labels.last(), 2, 0);
     grid->addWidget(m_tfExample, 2, 1);
+    // It keeps its room while there is nothing to tell, as the sheet does its height.
+    grid->addWidget(m_tfRefusal, 3, 1);
     connect(m_tfInput, &TSTokenField::partsChanged, this, &TSNamePatternView::controlTextDidChange);
     connect(m_tfInput, &TSTokenField::tokenMenuChosen, this, [](const QVariant &object, int item) {
         if (const auto token = tokenOf(object))
@@ -163,4 +171,15 @@ void TSNamePatternView::showExample()
 {
     m_tfExample->setText(m_pattern.tfExample());
     m_tfExample->setToolTip(m_pattern.tfExample());
+    showRefusal();
+}
+
+/// After the run every photo would have failed for it.
+void TSNamePatternView::showRefusal()
+{
+    const QString refusal = TSNameRefusal(TSDataManager::dataManager()->exportNames);
+    m_tfRefusal->setText(refusal);
+    m_tfInput->setAccessibleDescription(refusal);
+    if (std::exchange(m_isPossible, refusal.isEmpty()) != m_isPossible)
+        Q_EMIT isPossibleChanged(m_isPossible);
 }

@@ -19,6 +19,11 @@ public:
 
     TSTokenField *tfInput() const { return m_tfInput; }
     void setLabelWidth(int width);
+    /// Every photo would get a name that a file can have. The user is told otherwise.
+    bool isPossible() const { return m_isPossible; }
+
+Q_SIGNALS:
+    void isPossibleChanged(bool isPossible);
 
 private:
     QWidget *newPalette();
@@ -26,9 +31,12 @@ private:
     void controlTextDidChange();
     void insertToken(const TSFieldToken &token);
     void showExample();
+    void showRefusal();
 
     TSNamePattern &m_pattern;
     QList<QLabel *> m_labels;
     TSTokenField *m_tfInput;
     QLabel *m_tfExample;
+    QLabel *m_tfRefusal;
+    bool m_isPossible = true;
 };

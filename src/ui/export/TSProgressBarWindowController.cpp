@@ -1,11 +1,11 @@
 #include "ui/export/TSProgressBarWindowController.h"
 
+#include "controls/TSBusyBar.h"
 #include "controls/TSCheckBoxAlert.h"
 #include "controls/TSTheme.h"
 
 #include <cmath>
 #include <QLabel>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -13,14 +13,13 @@ namespace {
 
 /// No wider than the questions that come over it.
 constexpr int sheetWidth = 420;
-constexpr int barHeight = 8;
 
 } // namespace
 
 TSProgressBarWindowController::TSProgressBarWindowController(QWidget *parent)
     : TSSheet(parent)
     , m_tfTip(new QLabel(this))
-    , m_pb(new QProgressBar(this))
+    , m_pb(new TSBusyBar(this))
     , m_btCancel(newButton("btCancel", qtTrId("Cancel")))
 {
     setObjectName(QStringLiteral("ProgressBarWindow"));
@@ -28,8 +27,6 @@ TSProgressBarWindowController::TSProgressBarWindowController(QWidget *parent)
     m_tfTip->setObjectName(QStringLiteral("tfTip"));
     m_pb->setObjectName(QStringLiteral("pb"));
     m_pb->setAccessibleName(qtTrId("Converting..."));
-    m_pb->setTextVisible(false);
-    m_pb->setFixedHeight(barHeight);
     auto *row = new QHBoxLayout;
     row->setSpacing(TSTheme::margin);
     row->addWidget(m_pb, 1);

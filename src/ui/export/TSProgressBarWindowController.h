@@ -5,8 +5,8 @@
 #include <QPointer>
 
 class QLabel;
-class QProgressBar;
 class QPushButton;
+class TSBusyBar;
 class TSCheckBoxAlert;
 
 /// The sheet during a run: a line that counts, a bar, and a way out that asks first. While it asks, the run
@@ -50,7 +50,7 @@ private:
     void setAnimated(bool isAnimated);
 
     QLabel *m_tfTip;
-    QProgressBar *m_pb;
+    TSBusyBar *m_pb;
     QPushButton *m_btCancel;
     QPointer<TSCheckBoxAlert> m_question;
     bool m_isIndeterminate = false;

@@ -34,6 +34,7 @@ TSSaveInfoWindowController::TSSaveInfoWindowController(QWidget *parent)
     : TSSheet(parent)
     , m_tfTitle(newText("tfTitle", this))
     , m_tfPath(newText("tfPath", this))
+    , m_tfCounts(newText("tfCounts", this))
     , m_tfReport(newText("tfReport", this))
     , m_cbShow(new QCheckBox(qtTrId("DontShowAgain"), this))
     , m_btOK(newButton("btOK", qtTrId("ShowFile")))
@@ -54,7 +55,7 @@ TSSaveInfoWindowController::TSSaveInfoWindowController(QWidget *parent)
     column->setContentsMargins(20, 20, 20, TSTheme::margin);
     column->setSpacing(TSTheme::spacing);
     column->setSizeConstraint(QLayout::SetFixedSize);
-    for (QLabel *label : {m_tfTitle, m_tfPath, m_tfReport})
+    for (QLabel *label : {m_tfTitle, m_tfCounts, m_tfPath, m_tfReport})
         column->addWidget(label);
     column->addSpacing(TSTheme::margin);
     column->addLayout(buttons);
@@ -80,10 +81,11 @@ void TSSaveInfoWindowController::setReport(const TSExportReport &report)
     const QString count = QString::number(report.writtenCount());
     const QString all = QString::number(report.writtenCount() + missed);
     m_tfTitle->setText(missed > 0 ? qtTrId("ExportDonePartly").arg(count, all) : qtTrId("ExportDone"));
+    m_tfCounts->setText(report.counts());
     m_tfReport->setText(report.sentences());
     m_tfReport->setVisible(missed > 0);
     setAccessibleName(m_tfTitle->text());
-    setAccessibleDescription(m_tfReport->text());
+    setAccessibleDescription(QStringLiteral("%1\n%2").arg(m_tfCounts->text(), m_tfReport->text()).trimmed());
 }
 
 void TSSaveInfoWindowController::updateCbShow()

@@ -40,6 +40,7 @@ private:
     QString m_path;
     QLabel *m_tfTitle;
     QLabel *m_tfPath;
+    QLabel *m_tfCounts;
     QLabel *m_tfReport;
     QCheckBox *m_cbShow;
     QPushButton *m_btOK;

@@ -4,6 +4,7 @@
 #include "preview/TSPhotoDrop.h"
 #include "preview/TSPreviewBackground.h"
 #include "session/TSNotificationCenter.h"
+#include "ui/preview/TSMarkRing.h"
 #include "ui/preview/TSPreviewCursors.h"
 
 #include <algorithm>
@@ -87,15 +88,28 @@ QRectF TSPreviewScrollView::superviewBounds() const
 void TSPreviewScrollView::previewFrameDidChange(const QRectF &frame)
 {
     m_documentSize = frame.size();
+    showScrollBars();
+    const QSize visible = viewport()->size();
+    horizontalScrollBar()->setRange(0, std::max(0, int(m_documentSize.width()) - visible.width()));
+    verticalScrollBar()->setRange(0, std::max(0, int(m_documentSize.height()) - visible.height()));
+    horizontalScrollBar()->setPageStep(visible.width());
+    verticalScrollBar()->setPageStep(visible.height());
+    redrawCanvasView();
+}
+
+/// By the policies, which act at once: by its range a bar comes a turn of the event loop later, when the
+/// canvas has been laid out without it.
+void TSPreviewScrollView::showScrollBars()
+{
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     // Showing a bar narrows the view in the other direction, which the second round finds.
     for (int round = 0; round < 2; ++round) {
-        const QSize visible = viewport()->size();
-        horizontalScrollBar()->setRange(0, std::max(0, int(m_documentSize.width()) - visible.width()));
-        verticalScrollBar()->setRange(0, std::max(0, int(m_documentSize.height()) - visible.height()));
-        horizontalScrollBar()->setPageStep(visible.width());
-        verticalScrollBar()->setPageStep(visible.height());
+        if (int(m_documentSize.width()) > viewport()->width())
+            setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+        if (int(m_documentSize.height()) > viewport()->height())
+            setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     }
-    redrawCanvasView();
 }
 
 void TSPreviewScrollView::scrollToPoint(const QPointF &point)
@@ -204,9 +218,16 @@ void TSPreviewScrollView::paintEvent(QPaintEvent *event)
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     const QRectF visible = QRectF(event->rect()).translated(scrollOffset());
     m_preview.overlaysLayer().drawRect(painter, visible);
+    m_preview.trackerState().isInactive = !hasKeysOfWindow();
     m_preview.trackerLayer().drawRect(painter);
     if (hasFocus() && m_isUsedByKeys)
         drawFocusRing(painter);
+}
+
+/// Also while another window is up: what had the keys before has them afterwards.
+bool TSPreviewScrollView::hasKeysOfWindow() const
+{
+    return window()->focusWidget() == this;
 }
 
 /// Around the marks that the keys act on, or else the whole preview, for whoever works without a mouse.
@@ -217,21 +238,8 @@ void TSPreviewScrollView::drawFocusRing(QPainter &painter)
         TSTheme::drawFocusRing(painter, viewport()->rect(), palette(), 3);
         return;
     }
-    painter.setBrush(Qt::NoBrush);
-    for (const auto &overlay : m_preview.selection().editingOverlaysArray()) {
-        painter.save();
-        const QPointF center = overlay->frame().center();
-        painter.translate(center);
-        painter.rotate(overlay->angle() * 180 / std::numbers::pi);
-        painter.translate(-center);
-        // On a rim, to be seen on any photo.
-        for (const auto &[color, width] :
-             {std::pair(QPalette::Window, 4), std::pair(QPalette::Highlight, 2)}) {
-            painter.setPen(QPen(palette().color(color), width));
-            painter.drawRoundedRect(overlay->frame().adjusted(-5, -5, 5, 5), 4, 4);
-        }
-        painter.restore();
-    }
+    for (const auto &overlay : m_preview.selection().editingOverlaysArray())
+        TSDrawMarkRing(painter, *overlay, palette());
 }
 
 void TSPreviewScrollView::scrollContentsBy(int, int)

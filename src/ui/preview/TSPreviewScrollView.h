@@ -60,6 +60,8 @@ private:
     void makeFirstResponder(TSResponder responder) override;
     void zoomListDidChange() override;
 
+    void showScrollBars();
+    bool hasKeysOfWindow() const;
     QPointF scrollOffset() const;
     TSMouseEvent mapped(const QMouseEvent &event, int clickCount) const;
     const QPixmap &canvasPicture();
