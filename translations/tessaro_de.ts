@@ -293,6 +293,10 @@
         <source>No layout could be read there.</source>
         <translation>Dort war kein Layout zu lesen.</translation>
     </message>
+    <message id="NoMarkShows">
+        <source>No mark shows on the photo.</source>
+        <translation>Auf dem Foto ist kein Wasserzeichen zu sehen.</translation>
+    </message>
     <message id="NoOutputName">
         <source>Without a name nothing is exported</source>
         <translation>Ohne Namen wird nichts exportiert</translation>

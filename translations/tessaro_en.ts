@@ -293,6 +293,10 @@
         <source>No layout could be read there.</source>
         <translation>No layout could be read there.</translation>
     </message>
+    <message id="NoMarkShows">
+        <source>No mark shows on the photo.</source>
+        <translation>No mark shows on the photo.</translation>
+    </message>
     <message id="NoOutputName">
         <source>Without a name nothing is exported</source>
         <translation>Without a name nothing is exported</translation>

@@ -291,6 +291,10 @@
         <source>No layout could be read there.</source>
         <translation>无法从该处读取版式。</translation>
     </message>
+    <message id="NoMarkShows">
+        <source>No mark shows on the photo.</source>
+        <translation>照片上看不到任何水印。</translation>
+    </message>
     <message id="NoOutputName">
         <source>Without a name nothing is exported</source>
         <translation>没有名称则不会导出任何照片</translation>

@@ -15,15 +15,29 @@
 
 namespace {
 
-/// Holds the run while it draws a photo, until it is let go.
+/// Holds the run, which draws a copy of it on each photo, until it is let go.
 class Trap : public TSOverlay {
 public:
+    Trap() = default;
+    std::shared_ptr<TSOverlay> copy() const override { return std::shared_ptr<Trap>(new Trap(*this)); }
     void drawIncontext(platform::PaintLayer &) override
     {
-        reached.release();
-        letGo.acquire();
+        m_held->reached.release();
+        m_held->letGo.acquire();
     }
-    QSemaphore reached, letGo;
+
+private:
+    struct Held {
+        QSemaphore reached, letGo;
+    };
+    std::shared_ptr<Held> m_held = std::make_shared<Held>();
+
+protected:
+    Trap(const Trap &) = default;
+
+public:
+    QSemaphore &reached = m_held->reached;
+    QSemaphore &letGo = m_held->letGo;
 };
 
 /// The process may do no more than a stranger while it lives, as whom a test run by root can be refused.
@@ -123,6 +137,13 @@ TEST_F(ExportRoadTest, CountsAndNamesAreTold)
         outcome.reason = QLatin1String(reason);
         report.add(QLatin1String(path), outcome);
     }
+    TSExportReport unmarked;
+    TSExportOutcome bare;
+    bare.status = Status::Written;
+    bare.isUnmarked = true;
+    unmarked.add(QStringLiteral("/x/a.jpg"), bare);
+    EXPECT_EQ(unmarked.missedCount(), 0);
+    EXPECT_EQ(unmarked.sentences(), "a.jpg: No mark shows on the photo.");
     EXPECT_EQ(report.counts(), "1 written, 4 failed, 1 skipped");
     EXPECT_EQ(report.sentences(), "one/b.jpg: bad\nx/two/b.jpg: worse\ny/two/b.jpg: worst\nc.jpg: unlucky\n"
                                   "d.jpg: The file of the photo is no longer there.");

@@ -32,27 +32,31 @@ void TSExportReport::add(const QString &photoPath, const TSExportOutcome &outcom
 {
     if (outcome.status == Status::Written) {
         ++m_writtenCount;
+        if (outcome.isUnmarked)
+            tell(photoPath, qtTrId("NoMarkShows"), 1);
         return;
     }
     m_failedCount += outcome.status == Status::Failed;
-    miss(photoPath, reasonOf(outcome), 1);
+    ++m_missedCount;
+    tell(photoPath, reasonOf(outcome), 1);
 }
 
 void TSExportReport::addAll(qint64 photoCount, const QString &reason)
 {
     m_failedCount += photoCount;
-    miss({}, reason, photoCount);
+    m_missedCount += photoCount;
+    tell({}, reason, photoCount);
 }
 
-void TSExportReport::miss(const QString &photoPath, const QString &reason, qint64 count)
+void TSExportReport::tell(const QString &photoPath, const QString &reason, qint64 count)
 {
-    m_missedCount += count;
-    const auto known = std::find_if(m_missed.begin(), m_missed.end(),
-                                    [&](const Missed &missed) { return missed.reason == reason; });
-    if (known != m_missed.end())
+    m_toldCount += count;
+    const auto known = std::find_if(m_told.begin(), m_told.end(),
+                                    [&](const Told &told) { return told.reason == reason; });
+    if (known != m_told.end())
         known->count += count;
     else
-        m_missed.push_back({reason, photoPath, count});
+        m_told.push_back({reason, photoPath, count});
 }
 
 QString TSExportReport::counts() const
@@ -63,8 +67,8 @@ QString TSExportReport::counts() const
 QStringList TSExportReport::photoNames() const
 {
     QStringList paths;
-    for (const Missed &missed : m_missed)
-        paths.append(missed.photoPath);
+    for (const Told &told : m_told)
+        paths.append(told.photoPath);
     return TSDistinctNames(paths, mostSentences);
 }
 
@@ -74,14 +78,14 @@ QString TSExportReport::sentences() const
     qint64 told = 0;
     const QStringList names = photoNames();
     for (size_t i = 0; i < size_t(names.size()); ++i) {
-        const Missed &missed = m_missed[i];
-        const QString who = missed.count == 1 && !missed.photoPath.isEmpty()
+        const Told &group = m_told[i];
+        const QString who = group.count == 1 && !group.photoPath.isEmpty()
                                 ? names[qsizetype(i)]
-                                : qtTrId("PhotoCount", int(missed.count));
-        lines.append(QStringLiteral("%1: %2").arg(who, missed.reason));
-        told += missed.count;
+                                : qtTrId("PhotoCount", int(group.count));
+        lines.append(QStringLiteral("%1: %2").arg(who, group.reason));
+        told += group.count;
     }
-    if (told < m_missedCount)
-        lines.append(qtTrId("AndMorePhotos", int(m_missedCount - told)));
+    if (told < m_toldCount)
+        lines.append(qtTrId("AndMorePhotos", int(m_toldCount - told)));
     return lines.join(u'\n');
 }

@@ -5,7 +5,7 @@
 #include <QString>
 #include <vector>
 
-/// What a run could not do, in sentences for the user. Filled by the thread of the run, read when that has
+/// What a run could not do, and photos on which no mark shows, in sentences for the user. Filled by the thread of the run, read when that has
 /// ended.
 class TSExportReport {
 public:
@@ -28,15 +28,17 @@ public:
 
 private:
     QStringList photoNames() const;
-    void miss(const QString &photoPath, const QString &reason, qint64 count);
+    void tell(const QString &photoPath, const QString &reason, qint64 count);
 
-    struct Missed {
+    /// Photos of which there is the same to be told.
+    struct Told {
         QString reason;
         QString photoPath;
         qint64 count = 0;
     };
 
-    std::vector<Missed> m_missed;
+    std::vector<Told> m_told;
+    qint64 m_toldCount = 0;
     qint64 m_writtenCount = 0;
     qint64 m_failedCount = 0;
     qint64 m_missedCount = 0;

@@ -83,7 +83,7 @@ void TSSaveInfoWindowController::setReport(const TSExportReport &report)
     m_tfTitle->setText(missed > 0 ? qtTrId("ExportDonePartly").arg(count, all) : qtTrId("ExportDone"));
     m_tfCounts->setText(report.counts());
     m_tfReport->setText(report.sentences());
-    m_tfReport->setVisible(missed > 0);
+    m_tfReport->setVisible(!m_tfReport->text().isEmpty());
     setAccessibleName(m_tfTitle->text());
     setAccessibleDescription(QStringLiteral("%1\n%2").arg(m_tfCounts->text(), m_tfReport->text()).trimmed());
 }
