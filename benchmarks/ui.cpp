@@ -188,9 +188,9 @@ public:
 
 private:
     TSPreview &preview() { return m_window.preview->preview(); }
-    static const TSPhoto *photo(qint64 index)
+    static std::shared_ptr<TSPhoto> photo(qint64 index)
     {
-        return TSPhotoManager::photoManager()->photoAtIndex(index).get();
+        return TSPhotoManager::photoManager()->photoAtIndex(index);
     }
     void select(qint64 index) { m_window.photoStrip->setSelectionIndex(index); }
 
