@@ -65,6 +65,17 @@ QString noteAbout(const platform::JpegRemainder &rest)
                      .arg(left.join(QStringLiteral(" and ")));
 }
 
+QStringList notes(const TSEncodedOutput &output)
+{
+    QStringList list;
+    if (output.lacksEnd)
+        list.append(qtTrId("The file lacks the mark of its end, and is otherwise whole."));
+    if (const QString note = output.source ? noteAbout(output.source->remainder()) : QString();
+        !note.isEmpty())
+        list.append(note);
+    return list;
+}
+
 } // namespace
 
 TSEncodedOutput TSOutputWriter::encode(TSOutputImage &image, const TSOutputRequest &request) const
@@ -82,12 +93,14 @@ TSEncodedOutput TSOutputWriter::encode(TSOutputImage &image, const TSOutputReque
             output.source = platform::JpegFile::open(request.sourcePath);
     }
     const QSize thumbnail = image.size().scaled(output.metadata.largestPicture(), Qt::KeepAspectRatio);
-    output.bytes = encoded(image.picture(thumbnail), output, request);
+    const platform::LazyImage picture = image.picture(thumbnail);
+    output.bytes = encoded(picture, output, request);
     output.thumbnail = image.thumbnail();
-    const QString decoderText = platform::takeVipsError();
+    output.lacksEnd = picture.lacksEnd();
+    const QString decoderText = picture.takeDecoderMessage();
     if (isCancelled && isCancelled())
         output.reason = qtTrId("The export was cancelled.");
-    else if (output.bytes.isEmpty() || TSTellsOfDamage(decoderText))
+    else if (output.bytes.isEmpty())
         output.reason = TSDecodingFailureText(decoderText);
     return output;
 }
@@ -111,8 +124,8 @@ TSWriteResult TSOutputWriter::write(const TSEncodedOutput &output, const TSOutpu
     TSWriteResult result;
     result.reason = output.reason.isEmpty() ? put(output, request) : output.reason;
     result.isWritten = result.reason.isEmpty();
-    if (result.isWritten && output.source)
-        result.note = noteAbout(output.source->remainder());
+    if (result.isWritten)
+        result.note = notes(output).join(u' ');
     return result;
 }
 

@@ -27,6 +27,8 @@ struct TSEncodedOutput {
     /// What takes the place of the pictures in the metadata.
     QImage thumbnail;
     std::optional<platform::JpegFile> source;
+    /// Its file stops where the picture does, without the mark of its end.
+    bool lacksEnd = false;
     /// Why there are no bytes, in a sentence for the user.
     QString reason;
 };

@@ -83,12 +83,15 @@ SourcePtr newSource(const QString &path)
     return SourcePtr(vips_source_new_from_file(QFile::encodeName(path).constData()));
 }
 
+/// A decoder reduces by leaving out, which aliases: the last halving is left to a filter.
 int jpegShrinkFor(QSize stored, QSize wanted)
 {
+    constexpr int leftToFilter = 2;
     if (wanted.isEmpty())
         return 1;
     for (const int shrink : {8, 4, 2})
-        if (stored.width() >= wanted.width() * shrink && stored.height() >= wanted.height() * shrink)
+        if (stored.width() >= wanted.width() * shrink * leftToFilter &&
+            stored.height() >= wanted.height() * shrink * leftToFilter)
             return shrink;
     return 1;
 }
@@ -101,25 +104,25 @@ bool isJpeg(const SourcePtr &source)
 }
 
 /// Asked which decoder it takes, libvips lets each of them look at the file, which costs more than a header.
-VipsImagePtr loadJpeg(const QString &path, int shrink)
+/// Of kinds that it is left to decode, any warning is a failure: it does not tell which it was.
+VipsImagePtr loadJpeg(VipsSource *source)
 {
-    const SourcePtr source = newSource(path);
     VipsImage *out = nullptr;
-    if (!source || vips_jpegload_source(source.get(), &out, "access", VIPS_ACCESS_SEQUENTIAL, "fail_on",
-                                        VIPS_FAIL_ON_TRUNCATED, "shrink", shrink, nullptr))
-        return nullptr;
-    return VipsImagePtr(out);
+    const int failed = vips_jpegload_source(source, &out, "access", VIPS_ACCESS_SEQUENTIAL, "fail_on",
+                                            VIPS_FAIL_ON_WARNING, nullptr);
+    return VipsImagePtr(failed ? nullptr : out);
 }
 
-VipsImagePtr openJpeg(const QString &path, QSize wanted)
+VipsImagePtr openJpeg(const QString &path, VipsSource *source, QSize wanted,
+                      std::shared_ptr<DecodingReport> report)
 {
-    VipsImagePtr full = loadJpeg(path, 1);
-    if (full && wanted == QSize(full->Xsize, full->Ysize)) {
-        VipsImagePtr strips = openJpegStrips(path, full.get());
-        return strips ? std::move(strips) : std::move(full);
-    }
-    const int shrink = full ? jpegShrinkFor({full->Xsize, full->Ysize}, wanted) : 1;
-    return shrink == 1 ? std::move(full) : loadJpeg(path, shrink);
+    VipsImagePtr header = loadJpeg(source);
+    if (!header)
+        return nullptr;
+    const QSize stored(header->Xsize, header->Ysize);
+    VipsImagePtr strips = openJpegStrips(path, header.get(), jpegShrinkFor(stored, wanted), wanted != stored,
+                                         std::move(report));
+    return strips ? std::move(strips) : std::move(header);
 }
 
 VipsImagePtr load(const QString &path, const QByteArray &options)
@@ -134,7 +137,8 @@ VipsImagePtr load(const QString &path, const QByteArray &options)
 
 } // namespace
 
-VipsImagePtr openImageSource(const QString &path, int frame, QSize wanted, int frames)
+VipsImagePtr openImageSource(const QString &path, int frame, QSize wanted, int frames,
+                             std::shared_ptr<DecodingReport> report)
 {
     initializeVips();
     vips_error_clear();
@@ -146,7 +150,8 @@ VipsImagePtr openImageSource(const QString &path, int frame, QSize wanted, int f
     }
     const SourcePtr source = newSource(path);
     if (isJpeg(source))
-        return openJpeg(path, wanted);
+        return openJpeg(path, source.get(), wanted,
+                        report ? std::move(report) : std::make_shared<DecodingReport>());
     const char *loader = source ? vips_foreign_find_load_source(source.get()) : nullptr;
     const Format format = loader ? formatOfLoader(loader) : Format::None;
     switch (format) {

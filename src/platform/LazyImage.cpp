@@ -143,7 +143,8 @@ VipsImagePtr prepared(VipsImage *in, const LazyImage::CancelTest &test)
 
 LazyImage LazyImage::open(const QString &path, QSize wanted, int frame)
 {
-    return LazyImage(openImageSource(path, frame, wanted));
+    auto report = std::make_shared<DecodingReport>();
+    return LazyImage(openImageSource(path, frame, wanted, 1, report), report);
 }
 
 LazyImage LazyImage::fromImage(const QImage &image)
@@ -161,19 +162,26 @@ bool LazyImage::hasAlpha() const
     return m_image && vips_image_hasalpha(m_image.get());
 }
 
+QString LazyImage::takeDecoderMessage() const
+{
+    const QString failure = m_report ? m_report->failure() : QString();
+    return failure.isEmpty() ? takeVipsError() : failure;
+}
+
 LazyImage LazyImage::inSRGB() const
 {
     if (!m_image)
         return {};
     const VipsImagePtr managed = toSRGBByProfile(m_image.get());
-    return LazyImage(toEightBitRGB(managed ? managed.get() : m_image.get()));
+    return step(toEightBitRGB(managed ? managed.get() : m_image.get()));
 }
 
 LazyImage LazyImage::resized(QSize size) const
 {
     if (!m_image || size == this->size())
         return *this;
-    LazyImage result(hasAlpha() ? resizedWithAlpha(m_image.get(), size) : resizedPlain(m_image.get(), size));
+    LazyImage result =
+        step(hasAlpha() ? resizedWithAlpha(m_image.get(), size) : resizedPlain(m_image.get(), size));
     if (!result.isEmpty() && result.size() != size)
         vips_error("Tessaro", "the picture could not be scaled to %d by %d", size.width(), size.height());
     return result.size() == size ? result : LazyImage();
@@ -190,7 +198,7 @@ LazyImage LazyImage::painted(std::shared_ptr<StripPainter> painter) const
     if (vips_image_pipelinev(out.get(), VIPS_DEMAND_STYLE_THINSTRIP, m_image.get(), nullptr) ||
         vips_image_generate(out.get(), vips_start_one, paintStrip, vips_stop_one, m_image.get(), job))
         return {};
-    return LazyImage(std::move(out));
+    return step(std::move(out));
 }
 
 LazyImage LazyImage::flattened() const
@@ -199,7 +207,7 @@ LazyImage LazyImage::flattened() const
         return *this;
     VipsImage *out = nullptr;
     VipsImagePtr flat = taken(vips_flatten(m_image.get(), &out, nullptr), out);
-    return flat ? LazyImage(taken(vips_cast_uchar(flat.get(), &out, nullptr), out)) : LazyImage();
+    return step(flat ? taken(vips_cast_uchar(flat.get(), &out, nullptr), out) : nullptr);
 }
 
 QByteArray LazyImage::encodeJpeg(const JpegOptions &options, const CancelTest &isCancelled) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/DecodingReport.h"
 #include "platform/JpegOptions.h"
 #include "platform/Vips.h"
 
@@ -42,6 +43,10 @@ public:
     QSize size() const;
     bool hasAlpha() const;
     VipsImage *vips() const { return m_image.get(); }
+    /// Once it has been computed: why that failed, in the decoder's words, or nothing.
+    QString takeDecoderMessage() const;
+    /// Once it has been computed: whether its file ends with the picture but lacks the mark of its end.
+    bool lacksEnd() const { return m_report && m_report->lacksEnd(); }
 
     /// 8-bit sRGB with three bands, or four when the picture has transparency; an embedded profile is
     /// honoured.
@@ -63,9 +68,15 @@ public:
     QImage toImage() const;
 
 private:
-    explicit LazyImage(VipsImagePtr image) : m_image(std::move(image)) {}
+    explicit LazyImage(VipsImagePtr image, std::shared_ptr<DecodingReport> report = {})
+        : m_image(std::move(image)), m_report(std::move(report))
+    {
+    }
+    /// What is made of this picture, and so comes from the same decoder.
+    LazyImage step(VipsImagePtr image) const { return LazyImage(std::move(image), m_report); }
 
     std::shared_ptr<VipsImage> m_image;
+    std::shared_ptr<DecodingReport> m_report;
 };
 
 } // namespace platform
