@@ -15,6 +15,18 @@ QString DecodingReport::failure() const
     return m_failure;
 }
 
+void DecodingReport::refuse(const QString &sentence)
+{
+    const std::lock_guard lock(m_mutex);
+    m_refusal = sentence;
+}
+
+QString DecodingReport::refusal() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_refusal;
+}
+
 void DecodingReport::missEnd()
 {
     const std::lock_guard lock(m_mutex);

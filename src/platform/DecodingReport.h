@@ -12,6 +12,9 @@ public:
     /// The first failure stands; those that follow come of it.
     void fail(const QString &message);
     QString failure() const;
+    /// Why a file of a known format is not read at all, in a sentence for the user.
+    void refuse(const QString &sentence);
+    QString refusal() const;
     /// The picture is whole, and the mark behind it that would say so is missing.
     void missEnd();
     bool lacksEnd() const;
@@ -19,6 +22,7 @@ public:
 private:
     mutable std::mutex m_mutex;
     QString m_failure;
+    QString m_refusal;
     bool m_lacksEnd = false;
 };
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <new>
 
 namespace platform {
 
@@ -58,7 +59,7 @@ struct PaintJob {
 };
 
 int paintStrip(VipsRegion *out, void *sequence, void *, void *data, gboolean *)
-{
+try {
     auto *in = static_cast<VipsRegion *>(sequence);
     const auto *job = static_cast<const PaintJob *>(data);
     VipsRect valid = out->valid;
@@ -72,6 +73,10 @@ int paintStrip(VipsRegion *out, void *sequence, void *, void *data, gboolean *)
         job->painter->paint(strip, origin);
     job->painter->finished(strip, origin);
     return 0;
+} catch (const std::bad_alloc &) {
+    // It must not pass through the library, which is not made for it.
+    vips_error("Tessaro", "%s", qUtf8Printable(qtTrId("There is not enough memory for the photo.")));
+    return -1;
 }
 
 void deletePaintJob(VipsImage *, void *job)
@@ -85,14 +90,20 @@ bool isInternalField(const char *name)
     return std::strncmp(name, "vips-", 5) == 0 || std::strcmp(name, VIPS_META_CONCURRENCY) == 0;
 }
 
-/// The picture without any metadata but an sRGB profile, and with the density that says nothing, 72 to the
-/// inch.
-VipsImagePtr withProfileOnly(VipsImage *in)
+/// One pixel a millimetre stands for a density that nobody has told.
+double densityOrNone(double pixelsPerMillimetre)
+{
+    constexpr double none = 72 / 25.4;
+    return pixelsPerMillimetre == 1 ? none : pixelsPerMillimetre;
+}
+
+/// The picture without any metadata but an sRGB profile and its density, which is 72 to the inch where nobody
+/// has told any.
+VipsImagePtr withProfileOnly(VipsImage *in, double across, double down)
 {
     VipsImage *out = nullptr;
-    constexpr double pixelsPerMillimetre = 72 / 25.4;
     VipsImagePtr copy =
-        taken(vips_copy(in, &out, "xres", pixelsPerMillimetre, "yres", pixelsPerMillimetre, nullptr), out);
+        taken(vips_copy(in, &out, "xres", densityOrNone(across), "yres", densityOrNone(down), nullptr), out);
     if (!copy)
         return nullptr;
     char **fields = vips_image_get_fields(copy.get());
@@ -133,9 +144,10 @@ VipsImagePtr cancellable(VipsImage *in, const LazyImage::CancelTest &test)
     return copy;
 }
 
-VipsImagePtr prepared(VipsImage *in, const LazyImage::CancelTest &test)
+VipsImagePtr prepared(VipsImage *in, const LazyImage::CancelTest &test, bool keepsDensity = false)
 {
-    const VipsImagePtr stripped = withProfileOnly(in);
+    const VipsImagePtr stripped =
+        keepsDensity ? withProfileOnly(in, in->Xres, in->Yres) : withProfileOnly(in, 1, 1);
     return stripped ? cancellable(stripped.get(), test) : nullptr;
 }
 
@@ -226,9 +238,9 @@ QByteArray LazyImage::encodePng(const CancelTest &isCancelled) const
                  : QByteArray();
 }
 
-QByteArray LazyImage::encodeTiff(const CancelTest &isCancelled) const
+QByteArray LazyImage::encodeTiff(const CancelTest &isCancelled, bool keepsDensity) const
 {
-    const VipsImagePtr image = m_image ? prepared(m_image.get(), isCancelled) : nullptr;
+    const VipsImagePtr image = m_image ? prepared(m_image.get(), isCancelled, keepsDensity) : nullptr;
     void *buffer = nullptr;
     size_t length = 0;
     return image ? takenBytes(vips_tiffsave_buffer(image.get(), &buffer, &length, nullptr), buffer, length)

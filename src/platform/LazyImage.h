@@ -60,10 +60,11 @@ public:
     /// The encoders run the whole picture through. They carry an sRGB profile and no other metadata, and
     /// answer no bytes on failure. `isCancelled` is asked now and then from the computing thread; once it
     /// answers true, encoding fails.
+    /// A density of the source goes into a TIFF where asked for, into a JPEG always, and into a PNG never.
     using CancelTest = std::function<bool()>;
     QByteArray encodeJpeg(const JpegOptions &options, const CancelTest &isCancelled = {}) const;
     QByteArray encodePng(const CancelTest &isCancelled = {}) const;
-    QByteArray encodeTiff(const CancelTest &isCancelled = {}) const;
+    QByteArray encodeTiff(const CancelTest &isCancelled = {}, bool keepsDensity = false) const;
     /// The whole picture in memory, RGB32 or premultiplied ARGB32.
     QImage toImage() const;
 

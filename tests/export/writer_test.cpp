@@ -9,6 +9,7 @@
 #include "support/ExportSession.h"
 
 #include <QDir>
+#include <sys/resource.h>
 
 namespace {
 
@@ -199,6 +200,12 @@ TEST_F(WriterTest, TheDensityOfAPhotoStaysWhateverItsSize)
         const QByteArray file = bytesOf(write(TSFileType::JPG, "o.jpg", size));
         EXPECT_EQ(file.mid(units, 5), QByteArray("\1\1\x2C\1\x2C", 5)) << size.width();
     }
+    const auto inTiff = [this](qint64 index) {
+        const auto tiff = platform::LazyImage::open(write(TSFileType::TIFF, "o.tiff", {160, 120}, index), {});
+        return std::lround(tiff.vips()->Xres * 25.4);
+    };
+    EXPECT_EQ(inTiff(0), 300);
+    EXPECT_EQ(inTiff(1), 72);
     const QByteArray file = bytesOf(write(TSFileType::JPG, "o.jpg", {640, 480}, 1));
     EXPECT_EQ(file.mid(units, 5), QByteArray("\1\0\x48\0\x48", 5)) << "72 to the inch says nothing";
 }
@@ -264,4 +271,24 @@ TEST_F(WriterTest, DamageIsJudgedByEveryWarning)
             EXPECT_EQ(m_result.reason.startsWith(u"The file is damaged"), !m_result.isWritten) << i << reason;
             EXPECT_EQ(!m_result.note.isEmpty(), cases[i].second == WholeButEnd) << i;
         }
+}
+
+TEST_F(WriterTest, AFileThatMayNotGrowIsNamed)
+{
+    takeIn(session.writePng("a.png", noise({700, 500})));
+    struct rlimit before {};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const struct rlimit little {
+        1 << 16, before.rlim_max
+    };
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &little), 0);
+    QStringList reasons;
+    for (const auto &[type, name] : types) {
+        write(type, name, {700, 500});
+        reasons.append(m_result.reason);
+    }
+    setrlimit(RLIMIT_FSIZE, &before);
+    for (const QString &reason : reasons)
+        EXPECT_TRUE(reason.startsWith(u"The file could not be written")) << reason.toStdString();
+    EXPECT_EQ(filesIn(session.folder.path()), words("a.png"));
 }

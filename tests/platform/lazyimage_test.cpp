@@ -2,12 +2,16 @@
 #include "platform/ImageFile.h"
 #include "platform/LazyImage.h"
 #include "platform/ThumbnailCollector.h"
+#include "platform/TiffDirectoryWriter.h"
+#include "platform/TiffStructure.h"
+#include "platform/TiffTags.h"
 #include "support/Folder.h"
 #include "support/Pictures.h"
 
 namespace {
 
 using platform::LazyImage;
+namespace tifftag = platform::tifftag;
 
 class LazyImageTest : public testing::Test, protected Folder {};
 
@@ -319,5 +323,108 @@ TEST_F(LazyImageTest, TheCameraTellsOfAdobeRGBWhereNoProfileDoes)
         vips_image_set_string(image.get(), "exif-ifd2-ColorSpace", colorSpace);
         const LazyImage opened = LazyImage::open(writePixels("camera.jpg", image.get()), {});
         expectColor(opened.inSRGB().toImage().pixelColor(8, 8), isAdobe ? moved : plainly, 2);
+    }
+}
+
+/// A card that is pulled, or a program that writes the file anew.
+TEST_F(LazyImageTest, FilesThatShrinkWhileTheyAreReadFail)
+{
+    const LazyImage picture = LazyImage::fromImage(noise({400, 300}));
+    for (const char *name : {"a.gif", "a.webp", "a.png", "a.tif", "a.jpg", "a.bmp"}) {
+        QString file = path(name);
+        if (file.endsWith(".bmp"))
+            ASSERT_TRUE(noise({400, 300}).save(file, "BMP"));
+        else
+            file = writePixels(name, picture.vips());
+        const LazyImage opened = LazyImage::open(file, {});
+        ASSERT_EQ(opened.size(), QSize(400, 300)) << name;
+        ASSERT_TRUE(QFile(file).resize(100));
+        // Of some formats the file is in memory once it is open.
+        const bool isKept = file.endsWith(".gif") || file.endsWith(".webp");
+        EXPECT_EQ(opened.inSRGB().toImage().isNull(), !isKept) << name;
+        EXPECT_EQ(opened.takeDecoderMessage().isEmpty(), isKept) << name;
+    }
+}
+
+TEST_F(LazyImageTest, HeadersTellOfPicturesOutOfReach)
+{
+    const auto words = [](std::initializer_list<int> numbers) {
+        QByteArray bytes;
+        for (const int number : numbers)
+            bytes.append(char(number)).append(char(number >> 8));
+        return bytes;
+    };
+    const QByteArray screen = words({40000, 40000});
+    const QByteArray gif = "GIF89a" + screen + QByteArray("\x80\0\0\0\0\0\xFF\xFF\xFF,\0\0\0\0", 14) +
+                           screen + QByteArray("\0\2\1\x44\0;", 6);
+    const QByteArray bits = words({60000, 0, 60000, 0, 1, 24, 1, 0, 54, 0}) + QByteArray(16, '\0');
+    const QByteArray bitmap = "BM" + words({54, 0, 0, 0, 54, 0, 40, 0}) + bits;
+    for (const auto &[name, bytes] : {std::pair("a.gif", gif), std::pair("a.bmp", bitmap)}) {
+        const QString file = write(name, bytes);
+        EXPECT_TRUE(LazyImage::open(file, {}).isEmpty()) << name;
+        EXPECT_TRUE(platform::refusalOfImage(file).startsWith(u"The picture has")) << name;
+    }
+    EXPECT_TRUE(platform::refusalOfImage(write("text.gif", "Dear diary")).isEmpty());
+}
+
+TEST_F(LazyImageTest, LargeAndOddBitmapsShowWhatTheToolkitShows)
+{
+    const QImage image = noise({61, 40});
+    for (const auto format : {QImage::Format_RGB888, QImage::Format_RGB32, QImage::Format_Indexed8}) {
+        ASSERT_TRUE(image.convertToFormat(format).save(path("a.bmp"), "BMP"));
+        const QImage expected = QImage(path("a.bmp")).convertToFormat(QImage::Format_RGB32);
+        EXPECT_EQ(platform::decodeImage(path("a.bmp")), expected) << format;
+        QByteArray turned = bytesOf(path("a.bmp"));
+        turned.replace(22, 4, QByteArray("\xD8\xFF\xFF\xFF", 4));
+        EXPECT_EQ(platform::decodeImage(write("b.bmp", turned)), expected.mirrored()) << format;
+    }
+    // Above what the toolkit reads unasked, and of no bytes on the disk.
+    QByteArray head = bytesOf(path("a.bmp")).first(54);
+    head.replace(10, 4, QByteArray("\x36\0\0\0", 4))
+        .replace(18, 8, QByteArray("\x70\x17\0\0\x70\x17\0\0", 8));
+    head.replace(28, 2, QByteArray("\x18\0", 2));
+    const QString large = write("large.bmp", head);
+    ASSERT_TRUE(QFile(large).resize(54 + 6000LL * 3 * 6000));
+    EXPECT_EQ(platform::decodeThumbnail(large, 100).size(), QSize(100, 100));
+}
+
+TEST_F(LazyImageTest, CameraRawsAreRefusedAndOtherTiffsRead)
+{
+    struct Case {
+        quint32 reduced;
+        quint32 kindBelow;
+        quint32 reducedBelow;
+        bool isRefused;
+    };
+    const Case cases[] = {
+        {1, 32803, 0, true}, {0, 34892, 0, true}, {1, 2, 0, true}, {0, 2, 1, false}, {0, 2, 0, false}};
+    for (const auto &[reduced, kindBelow, reducedBelow, isRefused] : cases) {
+        const auto number = [](platform::TiffDirectoryWriter &writer, quint16 tag, quint32 value) {
+            writer.set(tag, platform::TiffStructure::Long, 1, writer.number(value));
+        };
+        const auto directory = [&](quint32 type, quint32 kind) {
+            platform::TiffDirectoryWriter writer(false);
+            for (const auto &[tag, value] :
+                 std::initializer_list<std::pair<quint16, quint32>>{{tifftag::NewSubfileType, type},
+                                                                    {tifftag::Width, 2},
+                                                                    {tifftag::Height, 1},
+                                                                    {tifftag::BitsPerSample, 8},
+                                                                    {tifftag::Compression, 1},
+                                                                    {tifftag::Photometric, kind},
+                                                                    {tifftag::StripOffsets, 8},
+                                                                    {tifftag::SamplesPerPixel, 1},
+                                                                    {tifftag::StripByteCounts, 2}})
+                number(writer, tag, value);
+            return writer;
+        };
+        constexpr quint32 first = 10;
+        constexpr quint32 second = 300;
+        platform::TiffDirectoryWriter preview = directory(reduced, 1);
+        number(preview, tifftag::SubDirectories, second);
+        QByteArray file = QByteArray("II*\0", 4) + preview.number(first) + "ab" + preview.bytes(first);
+        file = file.leftJustified(second, '\0') + directory(reducedBelow, kindBelow).bytes(second);
+        const QString tiff = write("a.tif", file);
+        EXPECT_EQ(LazyImage::open(tiff, {}).isEmpty(), isRefused) << kindBelow;
+        EXPECT_EQ(platform::refusalOfImage(tiff).contains(u"raw data"), isRefused) << kindBelow;
     }
 }
