@@ -6,6 +6,7 @@
 #include "session/TSOutputCodes.h"
 
 #include <cmath>
+#include <new>
 #include <QStringList>
 
 namespace {
@@ -79,7 +80,7 @@ QStringList notes(const TSEncodedOutput &output)
 } // namespace
 
 TSEncodedOutput TSOutputWriter::encode(TSOutputImage &image, const TSOutputRequest &request) const
-{
+try {
     TSEncodedOutput output;
     if (isTooLong(image.size(), request.type)) {
         output.reason = qtTrId("A JPEG picture has at most %1 pixels on a side; make it smaller, or choose "
@@ -103,6 +104,10 @@ TSEncodedOutput TSOutputWriter::encode(TSOutputImage &image, const TSOutputReque
     else if (output.bytes.isEmpty())
         output.reason = TSDecodingFailureText(decoderText);
     return output;
+} catch (const std::bad_alloc &) {
+    TSEncodedOutput output;
+    output.reason = qtTrId("There is not enough memory for the photo.");
+    return output;
 }
 
 QByteArray TSOutputWriter::encoded(const platform::LazyImage &picture, const TSEncodedOutput &output,
@@ -115,7 +120,7 @@ QByteArray TSOutputWriter::encoded(const platform::LazyImage &picture, const TSE
         return picture.encodePng(isCancelled);
     default:
         // Files of the BMP type have always held TIFF data; readers of ours go by contents.
-        return picture.encodeTiff(isCancelled);
+        return picture.encodeTiff(isCancelled, takesMetadata(request));
     }
 }
 
