@@ -1,6 +1,7 @@
 #include "platform/LazyImage.h"
 
 #include "platform/ColorProfile.h"
+#include "platform/DeviceTarget.h"
 #include "platform/ImageSource.h"
 #include "platform/JpegEncoder.h"
 #include "platform/VipsMemory.h"
@@ -238,13 +239,25 @@ QByteArray LazyImage::encodePng(const CancelTest &isCancelled) const
                  : QByteArray();
 }
 
-QByteArray LazyImage::encodeTiff(const CancelTest &isCancelled, bool keepsDensity) const
+QByteArray LazyImage::encodeTiff(const CancelTest &isCancelled) const
 {
-    const VipsImagePtr image = m_image ? prepared(m_image.get(), isCancelled, keepsDensity) : nullptr;
+    const VipsImagePtr image = m_image ? prepared(m_image.get(), isCancelled) : nullptr;
     void *buffer = nullptr;
     size_t length = 0;
     return image ? takenBytes(vips_tiffsave_buffer(image.get(), &buffer, &length, nullptr), buffer, length)
                  : QByteArray();
+}
+
+bool LazyImage::encodePng(QIODevice &to, const CancelTest &isCancelled) const
+{
+    const VipsImagePtr image = m_image ? prepared(m_image.get(), isCancelled) : nullptr;
+    return image && vips_pngsave_target(image.get(), openDeviceTarget(to).get(), nullptr) == 0;
+}
+
+bool LazyImage::encodeTiff(QIODevice &to, const CancelTest &isCancelled, bool keepsDensity) const
+{
+    const VipsImagePtr image = m_image ? prepared(m_image.get(), isCancelled, keepsDensity) : nullptr;
+    return image && vips_tiffsave_target(image.get(), openDeviceTarget(to).get(), nullptr) == 0;
 }
 
 QImage LazyImage::toImage() const

@@ -10,6 +10,8 @@
 #include <QRect>
 #include <QSize>
 
+class QIODevice;
+
 namespace platform {
 
 /// Something that is painted over a picture while it streams by. Coordinates are pixels of that picture, y
@@ -64,7 +66,10 @@ public:
     using CancelTest = std::function<bool()>;
     QByteArray encodeJpeg(const JpegOptions &options, const CancelTest &isCancelled = {}) const;
     QByteArray encodePng(const CancelTest &isCancelled = {}) const;
-    QByteArray encodeTiff(const CancelTest &isCancelled = {}, bool keepsDensity = false) const;
+    QByteArray encodeTiff(const CancelTest &isCancelled = {}) const;
+    /// The same straight into a device, from where it stands; they answer whether it worked.
+    bool encodePng(QIODevice &to, const CancelTest &isCancelled) const;
+    bool encodeTiff(QIODevice &to, const CancelTest &isCancelled, bool keepsDensity) const;
     /// The whole picture in memory, RGB32 or premultiplied ARGB32.
     QImage toImage() const;
 

@@ -4,6 +4,7 @@
 #include "platform/TiffTags.h"
 
 #include <algorithm>
+#include <QFile>
 #include <QtEndian>
 
 namespace platform {
@@ -31,10 +32,15 @@ const TiffFile::Entry *TiffFile::Directory::find(quint16 tag) const
 
 std::optional<TiffFile> TiffFile::open(const QString &path)
 {
+    auto file = std::make_shared<QFile>(path);
+    return file->open(QIODevice::ReadOnly) ? read(file, 0) : std::nullopt;
+}
+
+std::optional<TiffFile> TiffFile::read(std::shared_ptr<QIODevice> device, qint64 origin)
+{
     TiffFile tiff;
-    tiff.m_file = std::make_shared<QFile>(path);
-    if (!tiff.m_file->open(QIODevice::ReadOnly))
-        return {};
+    tiff.m_device = std::move(device);
+    tiff.m_origin = origin;
     const QByteArray header = tiff.bytesAt(0, HeaderLength);
     const std::optional<TiffStructure> structure = TiffStructure::read(header);
     if (!structure)
@@ -57,9 +63,9 @@ quint32 TiffFile::long_(const char *data) const
 QByteArray TiffFile::bytesAt(quint32 position, qint64 length)
 {
     constexpr qint64 longest = 1 << 24;
-    if (length > longest || !m_file->seek(position))
+    if (length > longest || !m_device->seek(m_origin + position))
         return {};
-    const QByteArray bytes = m_file->read(length);
+    const QByteArray bytes = m_device->read(length);
     return bytes.size() == length ? bytes : QByteArray();
 }
 
@@ -81,7 +87,7 @@ std::optional<TiffFile::Directory> TiffFile::directoryAt(quint32 position)
     if (entries.isEmpty())
         return {};
     Directory directory;
-    const QByteArray next = m_file->read(4);
+    const QByteArray next = m_device->read(4);
     directory.next = next.size() == 4 ? long_(next.constData()) : 0;
     for (qint64 i = 0; i < count; ++i)
         directory.entries.push_back(entryFrom(entries.constData() + i * EntryLength));

@@ -3,7 +3,7 @@
 #include <memory>
 #include <optional>
 #include <QByteArray>
-#include <QFile>
+#include <QIODevice>
 #include <QString>
 #include <vector>
 
@@ -31,7 +31,10 @@ public:
 
     /// Nothing for what cannot be read or has no header of either byte order.
     static std::optional<TiffFile> open(const QString &path);
+    /// One that begins inside of a device; positions count from there.
+    static std::optional<TiffFile> read(std::shared_ptr<QIODevice> device, qint64 origin);
 
+    bool isBigEndian() const { return m_bigEndian; }
     quint32 firstDirectory() const { return m_firstDirectory; }
     std::optional<Directory> directoryAt(quint32 position);
     /// None for a directory without that entry, or for values that are no whole numbers.
@@ -45,7 +48,8 @@ private:
     Entry entryFrom(const char *bytes);
     QByteArray bytesAt(quint32 position, qint64 length);
 
-    std::shared_ptr<QFile> m_file;
+    std::shared_ptr<QIODevice> m_device;
+    qint64 m_origin = 0;
     bool m_bigEndian = false;
     quint32 m_firstDirectory = 0;
 };
