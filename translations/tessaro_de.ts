@@ -451,6 +451,22 @@
         <source>Text Watermark</source>
         <translation>Text-Wasserzeichen</translation>
     </message>
+    <message id="The file holds the raw data of a camera's sensor, which is not read yet.">
+        <source>The file holds the raw data of a camera's sensor, which is not read yet.</source>
+        <translation>Die Datei enthält die Rohdaten eines Kamerasensors; diese werden noch nicht gelesen.</translation>
+    </message>
+    <message id="The file lacks the mark of its end, and is otherwise whole.">
+        <source>The file lacks the mark of its end, and is otherwise whole.</source>
+        <translation>Der Datei fehlt die Endmarke; sonst ist sie vollständig.</translation>
+    </message>
+    <message id="The picture has %1 × %2 pixels, which is more than can be read.">
+        <source>The picture has %1 × %2 pixels, which is more than can be read.</source>
+        <translation>Das Bild hat %1 × %2 Pixel; so viele lassen sich nicht lesen.</translation>
+    </message>
+    <message id="There is not enough memory for the photo.">
+        <source>There is not enough memory for the photo.</source>
+        <translation>Der Speicher reicht für das Foto nicht aus.</translation>
+    </message>
     <message id="UPPERCASE">
         <source>UPPERCASE</source>
         <translation>GROSSBUCHSTABEN</translation>

@@ -451,6 +451,22 @@
         <source>Text Watermark</source>
         <translation>Text Watermark</translation>
     </message>
+    <message id="The file holds the raw data of a camera's sensor, which is not read yet.">
+        <source>The file holds the raw data of a camera's sensor, which is not read yet.</source>
+        <translation>The file holds the raw data of a camera's sensor, which is not read yet.</translation>
+    </message>
+    <message id="The file lacks the mark of its end, and is otherwise whole.">
+        <source>The file lacks the mark of its end, and is otherwise whole.</source>
+        <translation>The file lacks the mark of its end, and is otherwise whole.</translation>
+    </message>
+    <message id="The picture has %1 × %2 pixels, which is more than can be read.">
+        <source>The picture has %1 × %2 pixels, which is more than can be read.</source>
+        <translation>The picture has %1 × %2 pixels, which is more than can be read.</translation>
+    </message>
+    <message id="There is not enough memory for the photo.">
+        <source>There is not enough memory for the photo.</source>
+        <translation>There is not enough memory for the photo.</translation>
+    </message>
     <message id="UPPERCASE">
         <source>UPPERCASE</source>
         <translation>UPPERCASE</translation>

@@ -447,6 +447,22 @@
         <source>Text Watermark</source>
         <translation>文字水印</translation>
     </message>
+    <message id="The file holds the raw data of a camera's sensor, which is not read yet.">
+        <source>The file holds the raw data of a camera's sensor, which is not read yet.</source>
+        <translation>该文件是相机的原始数据，目前尚不能读取。</translation>
+    </message>
+    <message id="The file lacks the mark of its end, and is otherwise whole.">
+        <source>The file lacks the mark of its end, and is otherwise whole.</source>
+        <translation>文件缺少结束标记，其余部分完整。</translation>
+    </message>
+    <message id="The picture has %1 × %2 pixels, which is more than can be read.">
+        <source>The picture has %1 × %2 pixels, which is more than can be read.</source>
+        <translation>图片有 %1 × %2 像素，超出了可读取的范围。</translation>
+    </message>
+    <message id="There is not enough memory for the photo.">
+        <source>There is not enough memory for the photo.</source>
+        <translation>内存不足，无法处理该照片。</translation>
+    </message>
     <message id="UPPERCASE">
         <source>UPPERCASE</source>
         <translation>大写</translation>

@@ -1,19 +1,25 @@
 #include "export/TSFailureText.h"
 
+#include <algorithm>
+
+namespace {
+
+bool holdsOneOf(const QString &text, std::initializer_list<const char *> words)
+{
+    return std::any_of(words.begin(), words.end(), [&](const char *word) {
+        return text.contains(QLatin1String(word), Qt::CaseInsensitive);
+    });
+}
+
+} // namespace
+
 QString TSDecodingFailureText(const QString &decoderText)
 {
     if (decoderText.isEmpty())
         return qtTrId("The photo could not be decoded.");
-    if (TSTellsOfDamage(decoderText))
+    if (holdsOneOf(decoderText, {"corrupt", "inconsistent"}))
         return qtTrId("The file is damaged (%1).").arg(decoderText);
-    if (decoderText.contains(u"premature", Qt::CaseInsensitive) ||
-        decoderText.contains(u"truncated", Qt::CaseInsensitive) ||
-        decoderText.contains(u"end of file", Qt::CaseInsensitive))
+    if (holdsOneOf(decoderText, {"premature", "truncated", "end of file"}))
         return qtTrId("The file is damaged: it breaks off before its end (%1).").arg(decoderText);
     return qtTrId("The photo could not be decoded (%1).").arg(decoderText);
-}
-
-bool TSTellsOfDamage(const QString &decoderText)
-{
-    return decoderText.contains(u"Corrupt JPEG data") && !decoderText.contains(u"extraneous bytes");
 }

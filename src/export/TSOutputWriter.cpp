@@ -1,11 +1,12 @@
 #include "export/TSOutputWriter.h"
 
 #include "export/TSFailureText.h"
-#include "platform/AtomicFile.h"
 #include "platform/TiffMetadata.h"
 #include "session/TSOutputCodes.h"
 
 #include <cmath>
+#include <limits>
+#include <new>
 #include <QStringList>
 
 namespace {
@@ -65,10 +66,26 @@ QString noteAbout(const platform::JpegRemainder &rest)
                      .arg(left.join(QStringLiteral(" and ")));
 }
 
+qsizetype rawLength(const platform::LazyImage &picture)
+{
+    return qsizetype(picture.size().width()) * picture.size().height() * (picture.hasAlpha() ? 4 : 3);
+}
+
+QStringList notes(const TSEncodedOutput &output)
+{
+    QStringList list;
+    if (output.lacksEnd)
+        list.append(qtTrId("The file lacks the mark of its end, and is otherwise whole."));
+    if (const QString note = output.source ? noteAbout(output.source->remainder()) : QString();
+        !note.isEmpty())
+        list.append(note);
+    return list;
+}
+
 } // namespace
 
 TSEncodedOutput TSOutputWriter::encode(TSOutputImage &image, const TSOutputRequest &request) const
-{
+try {
     TSEncodedOutput output;
     if (isTooLong(image.size(), request.type)) {
         output.reason = qtTrId("A JPEG picture has at most %1 pixels on a side; make it smaller, or choose "
@@ -82,28 +99,52 @@ TSEncodedOutput TSOutputWriter::encode(TSOutputImage &image, const TSOutputReque
             output.source = platform::JpegFile::open(request.sourcePath);
     }
     const QSize thumbnail = image.size().scaled(output.metadata.largestPicture(), Qt::KeepAspectRatio);
-    output.bytes = encoded(image.picture(thumbnail), output, request);
+    const platform::LazyImage picture = image.picture(thumbnail);
+    encode(picture, request, output);
     output.thumbnail = image.thumbnail();
-    const QString decoderText = platform::takeVipsError();
+    output.lacksEnd = picture.lacksEnd();
+    const QString decoderText = picture.takeDecoderMessage();
     if (isCancelled && isCancelled())
         output.reason = qtTrId("The export was cancelled.");
-    else if (output.bytes.isEmpty() || TSTellsOfDamage(decoderText))
+    else if (output.bytes.isEmpty() && !output.file && output.reason.isEmpty())
         output.reason = TSDecodingFailureText(decoderText);
+    return output;
+} catch (const std::bad_alloc &) {
+    TSEncodedOutput output;
+    output.reason = qtTrId("There is not enough memory for the photo.");
     return output;
 }
 
-QByteArray TSOutputWriter::encoded(const platform::LazyImage &picture, const TSEncodedOutput &output,
-                                   const TSOutputRequest &request) const
+void TSOutputWriter::encode(const platform::LazyImage &picture, const TSOutputRequest &request,
+                            TSEncodedOutput &output) const
 {
-    switch (request.type) {
-    case TSFileType::JPG:
-        return picture.encodeJpeg(optionsFor(request, output.source), isCancelled);
-    case TSFileType::PNG:
-        return picture.encodePng(isCancelled);
-    default:
-        // Files of the BMP type have always held TIFF data; readers of ours go by contents.
-        return picture.encodeTiff(isCancelled);
+    if (request.type == TSFileType::JPG) {
+        output.bytes = picture.encodeJpeg(optionsFor(request, output.source), isCancelled);
+        return;
     }
+    auto file = std::make_shared<platform::AtomicFile>(request.targetPath);
+    if (file->open() && stream(picture, request, output.metadata, *file))
+        output.file = std::move(file);
+    else if (file->hasFailed())
+        output.reason = file->failure(rawLength(picture));
+}
+
+/// Without compression these files grow with the pixels, and are never in memory.
+bool TSOutputWriter::stream(const platform::LazyImage &picture, const TSOutputRequest &request,
+                            const platform::CarriedMetadata &carried, platform::AtomicFile &file) const
+{
+    if (request.type == TSFileType::PNG)
+        return picture.encodePng(file.device(), isCancelled);
+    // Files of the BMP type have always held TIFF data; readers of ours go by contents.
+    if (!takesMetadata(request))
+        return picture.encodeTiff(file.device(), isCancelled, false);
+    const platform::TiffMetadata metadata(carried);
+    // Metadata that does not fit into the file stays behind, and the picture is written all the same.
+    const bool fits = rawLength(picture) + metadata.length() < qsizetype(std::numeric_limits<quint32>::max());
+    if (fits)
+        file.device().write(metadata.head());
+    return picture.encodeTiff(file.device(), isCancelled, true) &&
+           (!fits || metadata.finish(file.reader(), file.device()));
 }
 
 TSWriteResult TSOutputWriter::write(const TSEncodedOutput &output, const TSOutputRequest &request) const
@@ -111,22 +152,17 @@ TSWriteResult TSOutputWriter::write(const TSEncodedOutput &output, const TSOutpu
     TSWriteResult result;
     result.reason = output.reason.isEmpty() ? put(output, request) : output.reason;
     result.isWritten = result.reason.isEmpty();
-    if (result.isWritten && output.source)
-        result.note = noteAbout(output.source->remainder());
+    if (result.isWritten)
+        result.note = notes(output).join(u' ');
     return result;
 }
 
 QString TSOutputWriter::put(const TSEncodedOutput &output, const TSOutputRequest &request)
 {
-    const QByteArray &bytes = output.bytes;
-    if (!takesMetadata(request))
-        return platform::writeFileAtomically(request.targetPath, bytes);
-    if (request.type == TSFileType::JPG)
-        return platform::writeFileAtomically(request.targetPath,
-                                             output.metadata.insertedInto(bytes, output.thumbnail));
-    return platform::writeFileAtomically(request.targetPath, bytes.size(), [&](QIODevice &file) {
-        // Metadata that does not fit into the file stays behind, and the picture is written all the same.
-        return platform::writeTiffWithMetadata(bytes, output.metadata, file) ||
-               file.write(bytes) == bytes.size();
-    });
+    if (output.file)
+        return output.file->commit();
+    const bool isPlain = !takesMetadata(request);
+    return platform::writeFileAtomically(
+        request.targetPath,
+        isPlain ? output.bytes : output.metadata.insertedInto(output.bytes, output.thumbnail));
 }

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "export/TSOutputImage.h"
+#include "platform/AtomicFile.h"
 #include "platform/CarriedMetadata.h"
 #include "platform/JpegFile.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <QString>
 #include <QVariantMap>
@@ -22,12 +24,17 @@ struct TSOutputRequest {
 
 /// A picture that has been through its encoder, and what of its source goes along with it.
 struct TSEncodedOutput {
+    /// Of a JPEG, which is small.
     QByteArray bytes;
+    /// Of the others, complete but for its name.
+    std::shared_ptr<platform::AtomicFile> file;
     platform::CarriedMetadata metadata;
     /// What takes the place of the pictures in the metadata.
     QImage thumbnail;
     std::optional<platform::JpegFile> source;
-    /// Why there are no bytes, in a sentence for the user.
+    /// Its file stops where the picture does, without the mark of its end.
+    bool lacksEnd = false;
+    /// Why there is neither, in a sentence for the user.
     QString reason;
 };
 
@@ -39,7 +46,7 @@ struct TSWriteResult {
     QString note;
 };
 
-/// Encodes an output into memory, puts the photo's metadata in, and writes the file whole or not at all. Any
+/// Encodes an output, puts the photo's metadata in, and writes the file whole or not at all. Any
 /// thread; one output may be written while the next one is being encoded on another.
 class TSOutputWriter {
 public:
@@ -51,7 +58,9 @@ public:
     TSWriteResult write(const TSEncodedOutput &output, const TSOutputRequest &request) const;
 
 private:
-    QByteArray encoded(const platform::LazyImage &picture, const TSEncodedOutput &output,
-                       const TSOutputRequest &request) const;
+    void encode(const platform::LazyImage &picture, const TSOutputRequest &request,
+                TSEncodedOutput &output) const;
+    bool stream(const platform::LazyImage &picture, const TSOutputRequest &request,
+                const platform::CarriedMetadata &metadata, platform::AtomicFile &file) const;
     static QString put(const TSEncodedOutput &output, const TSOutputRequest &request);
 };

@@ -1,9 +1,9 @@
 #include "platform/AtomicFile.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStorageInfo>
 #include <QUuid>
 
@@ -59,19 +59,47 @@ bool takeName(const QString &from, const QString &path)
 
 } // namespace
 
-QString writeFileAtomically(const QString &path, const QByteArray &bytes)
+qint64 AtomicFile::File::writeData(const char *bytes, qint64 length)
 {
-    return writeFileAtomically(path, bytes.size(),
-                               [&](QIODevice &file) { return file.write(bytes) == bytes.size(); });
+    const qint64 count = QSaveFile::writeData(bytes, length);
+    if (count != length && error.isEmpty())
+        error = qt_error_string(errno);
+    return count;
 }
 
-QString writeFileAtomically(const QString &path, qsizetype length,
-                            const std::function<bool(QIODevice &)> &write)
+AtomicFile::AtomicFile(const QString &path) : m_path(path), m_file(firstPath(path)) {}
+
+bool AtomicFile::open()
 {
-    QSaveFile file(firstPath(path));
-    if (file.open(QIODevice::WriteOnly) && write(file) && file.commit() && takeName(file.fileName(), path))
-        return {};
-    return reasonForFailure(path, length, file.errorString());
+    return m_file.open(QIODevice::WriteOnly);
+}
+
+/// The temporary file may have no name, and is open for writing alone.
+std::unique_ptr<QIODevice> AtomicFile::reader()
+{
+    m_file.flush();
+    auto file = std::make_unique<QFile>(QStringLiteral("/proc/self/fd/%1").arg(m_file.handle()));
+    file->open(QIODevice::ReadOnly);
+    return file;
+}
+
+QString AtomicFile::commit()
+{
+    const qsizetype length = m_file.size();
+    return m_file.commit() && takeName(m_file.fileName(), m_path) ? QString() : failure(length);
+}
+
+QString AtomicFile::failure(qsizetype length) const
+{
+    return reasonForFailure(m_path, length, m_file.error.isEmpty() ? m_file.errorString() : m_file.error);
+}
+
+QString writeFileAtomically(const QString &path, const QByteArray &bytes)
+{
+    AtomicFile file(path);
+    if (file.open() && file.device().write(bytes) == bytes.size())
+        return file.commit();
+    return file.failure(bytes.size());
 }
 
 } // namespace platform

@@ -13,15 +13,90 @@ namespace {
 constexpr int steps = 9;
 constexpr int probeCount = steps * steps * steps;
 
-VipsImagePtr transformed(VipsImage *image)
+/// Hands the result of a libvips operation on, or nothing when it failed.
+VipsImagePtr taken(int failed, VipsImage *const &out)
 {
-    VipsImage *out = nullptr;
-    // The intent meant for photographs; printers' profiles bring their own compression of the shadows for it.
-    const int failed = vips_icc_transform(image, &out, "srgb", "embedded", TRUE, "depth", 8, "intent",
-                                          VIPS_INTENT_PERCEPTUAL, nullptr);
     if (failed)
         vips_error_clear();
     return VipsImagePtr(failed ? nullptr : out);
+}
+
+int colorBands(const VipsImage *image)
+{
+    switch (image->Type) {
+    case VIPS_INTERPRETATION_B_W:
+    case VIPS_INTERPRETATION_GREY16:
+        return 1;
+    case VIPS_INTERPRETATION_CMYK:
+        return 4;
+    default:
+        return std::min(image->Bands, 3);
+    }
+}
+
+/// The intent meant for photographs; printers' profiles bring their own compression of the shadows for it,
+/// but many leave black where ink on paper would have it.
+VipsImagePtr transformedColors(VipsImage *image, const char *profile)
+{
+    VipsImage *out = nullptr;
+    const bool isInk = colorBands(image) == 4;
+    return taken(vips_icc_transform(image, &out, "srgb", "embedded", profile == nullptr, "input_profile",
+                                    profile, "depth", 8, "intent", VIPS_INTENT_PERCEPTUAL,
+                                    "black_point_compensation", isInk, nullptr),
+                 out);
+}
+
+VipsImagePtr bands(VipsImage *image, int first, int count)
+{
+    VipsImage *out = nullptr;
+    return taken(vips_extract_band(image, &out, first, "n", count, nullptr), out);
+}
+
+/// In eight bits.
+VipsImagePtr alphaOf(VipsImage *image)
+{
+    constexpr double stepsOfSixteenBits = 257;
+    VipsImage *out = nullptr;
+    VipsImagePtr alpha = bands(image, colorBands(image), 1);
+    if (alpha && alpha->BandFmt == VIPS_FORMAT_USHORT)
+        alpha = taken(vips_linear1(alpha.get(), &out, 1 / stepsOfSixteenBits, 0.5, nullptr), out);
+    return alpha ? taken(vips_cast_uchar(alpha.get(), &out, nullptr), out) : nullptr;
+}
+
+/// The transform takes an alpha for one more band and leaves it in whatever range it had.
+VipsImagePtr transformed(VipsImage *image, const char *profile = nullptr)
+{
+    const int further = image->Bands - colorBands(image);
+    if (further == 0)
+        return transformedColors(image, profile);
+    const VipsImagePtr opaque = bands(image, 0, colorBands(image));
+    VipsImagePtr colors = opaque ? transformedColors(opaque.get(), profile) : nullptr;
+    // What several more bands stand for, nobody tells.
+    if (!colors || further > 1)
+        return colors;
+    const VipsImagePtr alpha = alphaOf(image);
+    VipsImage *out = nullptr;
+    return alpha ? taken(vips_bandjoin2(colors.get(), alpha.get(), &out, nullptr), out) : nullptr;
+}
+
+/// Profiles of another space than the picture's stand in files all the same, and would be taken for what they
+/// are not.
+bool fits(VipsImage *image, QByteArrayView profile)
+{
+    constexpr qsizetype spaceField = 16;
+    struct Kind {
+        int bands;
+        const char *space;
+    };
+    constexpr Kind kinds[] = {{1, "GRAY"}, {3, "RGB "}, {4, "CMYK"}};
+    if (profile.size() < spaceField + 4)
+        return false;
+    const QByteArrayView space = profile.sliced(spaceField, 4);
+    if (image->Type == VIPS_INTERPRETATION_LAB || image->Type == VIPS_INTERPRETATION_LABS)
+        return space == "Lab ";
+    return std::any_of(std::begin(kinds), std::end(kinds), [&](const Kind &kind) {
+        return kind.bands == colorBands(image) && space == kind.space;
+    });
 }
 
 /// A picture of colours spread over the whole cube.
@@ -128,12 +203,13 @@ QByteArray sRGBProfile()
 VipsImagePtr toSRGBByProfile(VipsImage *image)
 {
     const QByteArrayView profile = attachedBytes(image, VIPS_META_ICC_NAME);
-    if (profile.isEmpty()) {
-        const bool isAdobe = isPlainRGB(image) && isAdobeRGBByCamera(image);
-        const VipsImagePtr profiled = isAdobe ? withAdobeRGBProfile(image) : nullptr;
-        return profiled ? transformed(profiled.get()) : nullptr;
-    }
-    return isPlainRGB(image) && isSRGB(profile) ? nullptr : transformed(image);
+    if (fits(image, profile))
+        return isPlainRGB(image) && isSRGB(profile) ? nullptr : transformed(image);
+    if (image->Type == VIPS_INTERPRETATION_CMYK)
+        return transformed(image, "cmyk");
+    const bool isAdobe = profile.isEmpty() && isPlainRGB(image) && isAdobeRGBByCamera(image);
+    const VipsImagePtr profiled = isAdobe ? withAdobeRGBProfile(image) : nullptr;
+    return profiled ? transformed(profiled.get()) : nullptr;
 }
 
 } // namespace platform

@@ -3,14 +3,14 @@
 #include "platform/ImageSource.h"
 #include "platform/LazyImage.h"
 #include "platform/Thumbnail.h"
-#include "platform/TiffStructure.h"
+#include "platform/TiffFile.h"
 #include "platform/TiffTags.h"
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <optional>
 #include <QFile>
-#include <utility>
 #include <vector>
 
 namespace platform {
@@ -23,30 +23,33 @@ bool isTakenFromFirst(quint16 tag)
     return tag == tifftag::Orientation || tag == tifftag::Palette || tag == tifftag::ColorProfile;
 }
 
-using Values = std::vector<std::pair<quint16, QByteArrayView>>;
-
-Values valuesTakenFromFirst(const TiffStructure::Directory &directory, QByteArrayView bytes)
+std::vector<TiffFile::Entry> valuesTakenFromFirst(const TiffFile::Directory &directory)
 {
-    Values values;
-    for (const TiffStructure::Entry &entry : directory.entries)
-        if (isTakenFromFirst(entry.tag))
-            values.emplace_back(entry.tag, bytes.sliced(entry.position, entry.length));
+    std::vector<TiffFile::Entry> values;
+    std::copy_if(directory.entries.begin(), directory.entries.end(), std::back_inserter(values),
+                 [](const TiffFile::Entry &entry) { return isTakenFromFirst(entry.tag); });
     return values;
 }
 
-bool areTiffFramesAlike(QByteArrayView bytes, int frames)
+bool areTiffFramesAlike(const QString &path, int frames)
 {
-    const std::optional<TiffStructure> tiff = TiffStructure::read(bytes);
+    std::optional<TiffFile> tiff = TiffFile::open(path);
     auto directory = tiff ? tiff->directoryAt(tiff->firstDirectory()) : std::nullopt;
     if (!directory)
         return false;
-    const Values first = valuesTakenFromFirst(*directory, bytes);
+    const std::vector<TiffFile::Entry> first = valuesTakenFromFirst(*directory);
     for (int frame = 1; frame < frames; ++frame) {
         directory = tiff->directoryAt(directory->next);
-        if (!directory || valuesTakenFromFirst(*directory, bytes) != first)
+        if (!directory || valuesTakenFromFirst(*directory) != first)
             return false;
     }
     return true;
+}
+
+bool isGif(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.read(3) == "GIF";
 }
 
 /// Nothing of this size is read into memory whole.
@@ -77,12 +80,9 @@ FrameReader::FrameReader(const QString &path) : m_path(path)
     m_frameCount = std::max(1, vips_image_get_n_pages(first.get()));
     if (m_frameCount == 1)
         return;
-    QFile file(path);
-    const uchar *bytes = file.open(QIODevice::ReadOnly) ? file.map(0, file.size()) : nullptr;
-    const QByteArrayView view(bytes, bytes ? file.size() : 0);
-    m_isAnimation = view.startsWith("GIF");
+    m_isAnimation = isGif(path);
     const bool isSmall = qint64(VIPS_IMAGE_SIZEOF_IMAGE(first.get())) <= largestFrame;
-    if (isSmall && (m_isAnimation || areTiffFramesAlike(view, m_frameCount)))
+    if (isSmall && (m_isAnimation || areTiffFramesAlike(path, m_frameCount)))
         m_framesAtOnce = std::max(1, VIPS_MAX_COORD / first->Ysize);
 }
 

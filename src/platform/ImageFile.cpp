@@ -28,6 +28,14 @@ bool isDecodableImage(const QString &path)
     return decodable;
 }
 
+QString refusalOfImage(const QString &path)
+{
+    const auto report = std::make_shared<DecodingReport>();
+    openImageSource(path, 0, {}, 1, report);
+    vips_error_clear();
+    return report->refusal();
+}
+
 std::optional<ImageHeader> readImageHeader(const QString &path, QString *reason, int frame)
 {
     const VipsImagePtr image = openImageSource(path, frame);

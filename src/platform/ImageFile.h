@@ -21,6 +21,8 @@ struct ImageHeader {
 
 /// Whether the file's contents are of a format that can be decoded.
 bool isDecodableImage(const QString &path);
+/// Why a file is not decoded although its format is known, in a sentence for the user; empty for any other.
+QString refusalOfImage(const QString &path);
 std::optional<ImageHeader> readImageHeader(const QString &path, QString *reason = nullptr, int frame = 0);
 /// One frame at full size, as stored.
 QImage decodeImage(const QString &path, int frame = 0);

@@ -1,161 +1,107 @@
 #include "platform/JpegStrips.h"
 
-#include <array>
-#include <csetjmp>
-#include <cstdio>
-#include <memory>
-#include <QFile>
-#include <QSize>
+#include "platform/JpegDecoder.h"
 
-// libjpeg's headers need stdio's types declared before them.
-#include <jpeglib.h>
-
-#include <jerror.h>
+#include <cstring>
+#include <vector>
 
 namespace platform {
 
 namespace {
 
-struct ErrorManager {
-    jpeg_error_mgr base;
-    std::jmp_buf jump;
+/// The header is read again with the first strip, and not by those who ask for no pixels.
+struct Strips {
+    JpegDecoder decoder;
+    std::shared_ptr<DecodingReport> report;
+    bool isOpen = false;
+    /// Of the decoder, where its rows are longer than the picture's.
+    std::vector<uchar> row;
 };
 
-void tell(j_common_ptr info)
+/// Blocks at the lower and right edge that are not full give a reduced pixel of their own, which would shift
+/// the others.
+int reduced(int length, int shrink)
 {
-    char message[JMSG_LENGTH_MAX];
-    info->err->format_message(info, message);
-    vips_error("VipsJpeg", "%s", message);
+    return length / shrink;
 }
 
-[[noreturn]] void failDecoding(j_common_ptr info)
+bool open(Strips &strips, const VipsImage *image)
 {
-    tell(info);
-    std::longjmp(reinterpret_cast<ErrorManager *>(info->err)->jump, 1);
+    if (!strips.isOpen && !strips.decoder.open())
+        return false;
+    strips.isOpen = true;
+    const QSize size = strips.decoder.size();
+    strips.row.resize(size_t(size.width()) * 4);
+    return size.width() >= image->Xsize && size.height() >= image->Ysize &&
+           strips.decoder.bands() == image->Bands;
 }
 
-/// Hands the file's bytes to the decoder, a few at a time: where it has many before it, it goes faster and
-/// takes spoilt codes for sound ones without a word.
-struct Source {
-    jpeg_source_mgr base;
-    QFile *file;
-    std::array<JOCTET, 0x400> bytes;
-};
-
-boolean fill(j_decompress_ptr info)
+bool readRow(Strips &strips, const VipsImage *image, uchar *to)
 {
-    auto *from = reinterpret_cast<Source *>(info->src);
-    const qint64 count = from->file->read(reinterpret_cast<char *>(from->bytes.data()), from->bytes.size());
-    if (count <= 0)
-        ERREXIT(info, JERR_INPUT_EOF);
-    from->base.next_input_byte = from->bytes.data();
-    from->base.bytes_in_buffer = size_t(count);
-    return TRUE;
+    if (strips.decoder.size().width() == image->Xsize)
+        return strips.decoder.readRow(to);
+    const bool isRead = strips.decoder.readRow(strips.row.data());
+    std::memcpy(to, strips.row.data(), VIPS_IMAGE_SIZEOF_LINE(image));
+    return isRead;
 }
 
-void skip(j_decompress_ptr info, long count)
+bool readRest(Strips &strips)
 {
-    jpeg_source_mgr *from = info->src;
-    while (count > long(from->bytes_in_buffer)) {
-        count -= long(from->bytes_in_buffer);
-        fill(info);
-    }
-    from->next_input_byte += std::max(count, 0L);
-    from->bytes_in_buffer -= size_t(std::max(count, 0L));
+    bool isRead = true;
+    while (isRead && strips.decoder.nextRow() < strips.decoder.size().height())
+        isRead = strips.decoder.readRow(strips.row.data());
+    return isRead;
 }
 
-void ignore(j_decompress_ptr) {}
-
-/// libjpeg's decompressor with its error jumps kept inside; every function answers whether it worked.
-class Decompressor {
-public:
-    explicit Decompressor(const QString &path) : m_file(path)
-    {
-        m_info.err = jpeg_std_error(&m_errors.base);
-        m_errors.base.error_exit = failDecoding;
-        m_errors.base.output_message = tell;
-        m_source.base = {nullptr, 0, ignore, fill, skip, jpeg_resync_to_restart, ignore};
-        m_source.file = &m_file;
-    }
-    ~Decompressor() { jpeg_destroy_decompress(&m_info); }
-    Decompressor(const Decompressor &) = delete;
-    Decompressor &operator=(const Decompressor &) = delete;
-
-    bool readHeader()
-    {
-        if (!m_file.open(QIODevice::ReadOnly) || setjmp(m_errors.jump))
-            return false;
-        jpeg_create_decompress(&m_info);
-        m_info.src = &m_source.base;
-        return jpeg_read_header(&m_info, TRUE) == JPEG_HEADER_OK;
-    }
-
-    bool isSinglePassColor()
-    {
-        const bool isColor = m_info.jpeg_color_space == JCS_YCbCr || m_info.jpeg_color_space == JCS_RGB;
-        return isColor && m_info.num_components == 3 && m_info.data_precision == 8 &&
-               !jpeg_has_multiple_scans(&m_info);
-    }
-
-    QSize size() const { return {int(m_info.image_width), int(m_info.image_height)}; }
-
-    bool start()
-    {
-        if (setjmp(m_errors.jump))
-            return false;
-        m_info.out_color_space = JCS_RGB;
-        return jpeg_start_decompress(&m_info);
-    }
-
-    bool read(VipsRegion *strip)
-    {
-        const VipsRect &area = strip->valid;
-        if (area.width != int(m_info.output_width) || area.top != int(m_info.output_scanline)) {
-            vips_error("VipsJpeg", "the picture was not read from top to bottom");
-            return false;
-        }
-        if (setjmp(m_errors.jump))
-            return false;
-        while (int(m_info.output_scanline) < VIPS_RECT_BOTTOM(&area)) {
-            JSAMPROW row = VIPS_REGION_ADDR(strip, 0, int(m_info.output_scanline));
-            jpeg_read_scanlines(&m_info, &row, 1);
-        }
-        return true;
-    }
-
-private:
-    jpeg_decompress_struct m_info{};
-    ErrorManager m_errors{};
-    Source m_source{};
-    QFile m_file;
-};
-
-int decodeStrip(VipsRegion *out, void *, void *, void *decompressor, gboolean *)
+int decodeStrip(VipsRegion *out, void *, void *data, void *, gboolean *)
 {
-    return static_cast<Decompressor *>(decompressor)->read(out) ? 0 : -1;
+    auto &strips = *static_cast<Strips *>(data);
+    const VipsRect &area = out->valid;
+    if (!open(strips, out->im))
+        return -1;
+    if (area.width != out->im->Xsize || area.top != strips.decoder.nextRow()) {
+        strips.report->fail(QStringLiteral("the picture was not read from top to bottom"));
+        return -1;
+    }
+    for (int y = area.top; y < VIPS_RECT_BOTTOM(&area); ++y)
+        if (!readRow(strips, out->im, VIPS_REGION_ADDR(out, 0, y)))
+            return -1;
+    return VIPS_RECT_BOTTOM(&area) < out->im->Ysize || readRest(strips) ? 0 : -1;
 }
 
-void deleteDecompressor(VipsImage *, void *decompressor)
+void deleteStrips(VipsImage *, void *strips)
 {
-    delete static_cast<Decompressor *>(decompressor);
+    delete static_cast<Strips *>(strips);
+}
+
+bool isKnownKind(const VipsImage *image)
+{
+    return (image->Type == VIPS_INTERPRETATION_B_W && image->Bands == 1) ||
+           (image->Type == VIPS_INTERPRETATION_sRGB && image->Bands == 3) ||
+           (image->Type == VIPS_INTERPRETATION_CMYK && image->Bands == 4);
 }
 
 } // namespace
 
-VipsImagePtr openJpegStrips(const QString &path, VipsImage *header)
+VipsImagePtr openJpegStrips(const QString &path, VipsImage *header, int shrink, bool buffered,
+                            std::shared_ptr<DecodingReport> report)
 {
-    auto decompressor = std::make_unique<Decompressor>(path);
-    if (header->Bands != 3 || !decompressor->readHeader() || !decompressor->isSinglePassColor() ||
-        decompressor->size() != QSize(header->Xsize, header->Ysize) || !decompressor->start())
+    if (!isKnownKind(header))
         return nullptr;
     VipsImagePtr out(vips_image_new());
-    // The decompressor lives as long as the picture that it decodes.
-    void *reader = decompressor.release();
-    g_signal_connect(out.get(), "close", G_CALLBACK(deleteDecompressor), reader);
-    if (vips_image_pipelinev(out.get(), VIPS_DEMAND_STYLE_THINSTRIP, header, nullptr) ||
-        vips_image_generate(out.get(), nullptr, decodeStrip, nullptr, nullptr, reader))
+    if (vips_image_pipelinev(out.get(), VIPS_DEMAND_STYLE_THINSTRIP, header, nullptr))
         return nullptr;
-    return out;
+    out->Xsize = reduced(header->Xsize, shrink);
+    out->Ysize = reduced(header->Ysize, shrink);
+    // They live as long as the picture that they decode.
+    auto *strips = new Strips{{path, shrink, report}, report, false, {}};
+    g_signal_connect(out.get(), "close", G_CALLBACK(deleteStrips), strips);
+    if (vips_image_generate(out.get(), nullptr, decodeStrip, nullptr, strips, nullptr))
+        return nullptr;
+    if (!buffered)
+        return out;
+    VipsImage *lines = nullptr;
+    return VipsImagePtr(vips_sequential(out.get(), &lines, "tile_height", 8, nullptr) ? nullptr : lines);
 }
 
 } // namespace platform

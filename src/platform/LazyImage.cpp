@@ -1,12 +1,14 @@
 #include "platform/LazyImage.h"
 
 #include "platform/ColorProfile.h"
+#include "platform/DeviceTarget.h"
 #include "platform/ImageSource.h"
 #include "platform/JpegEncoder.h"
 #include "platform/VipsMemory.h"
 
 #include <algorithm>
 #include <cstring>
+#include <new>
 
 namespace platform {
 
@@ -58,7 +60,7 @@ struct PaintJob {
 };
 
 int paintStrip(VipsRegion *out, void *sequence, void *, void *data, gboolean *)
-{
+try {
     auto *in = static_cast<VipsRegion *>(sequence);
     const auto *job = static_cast<const PaintJob *>(data);
     VipsRect valid = out->valid;
@@ -72,6 +74,10 @@ int paintStrip(VipsRegion *out, void *sequence, void *, void *data, gboolean *)
         job->painter->paint(strip, origin);
     job->painter->finished(strip, origin);
     return 0;
+} catch (const std::bad_alloc &) {
+    // It must not pass through the library, which is not made for it.
+    vips_error("Tessaro", "%s", qUtf8Printable(qtTrId("There is not enough memory for the photo.")));
+    return -1;
 }
 
 void deletePaintJob(VipsImage *, void *job)
@@ -85,14 +91,20 @@ bool isInternalField(const char *name)
     return std::strncmp(name, "vips-", 5) == 0 || std::strcmp(name, VIPS_META_CONCURRENCY) == 0;
 }
 
-/// The picture without any metadata but an sRGB profile, and with the density that says nothing, 72 to the
-/// inch.
-VipsImagePtr withProfileOnly(VipsImage *in)
+/// One pixel a millimetre stands for a density that nobody has told.
+double densityOrNone(double pixelsPerMillimetre)
+{
+    constexpr double none = 72 / 25.4;
+    return pixelsPerMillimetre == 1 ? none : pixelsPerMillimetre;
+}
+
+/// The picture without any metadata but an sRGB profile and its density, which is 72 to the inch where nobody
+/// has told any.
+VipsImagePtr withProfileOnly(VipsImage *in, double across, double down)
 {
     VipsImage *out = nullptr;
-    constexpr double pixelsPerMillimetre = 72 / 25.4;
     VipsImagePtr copy =
-        taken(vips_copy(in, &out, "xres", pixelsPerMillimetre, "yres", pixelsPerMillimetre, nullptr), out);
+        taken(vips_copy(in, &out, "xres", densityOrNone(across), "yres", densityOrNone(down), nullptr), out);
     if (!copy)
         return nullptr;
     char **fields = vips_image_get_fields(copy.get());
@@ -133,9 +145,10 @@ VipsImagePtr cancellable(VipsImage *in, const LazyImage::CancelTest &test)
     return copy;
 }
 
-VipsImagePtr prepared(VipsImage *in, const LazyImage::CancelTest &test)
+VipsImagePtr prepared(VipsImage *in, const LazyImage::CancelTest &test, bool keepsDensity = false)
 {
-    const VipsImagePtr stripped = withProfileOnly(in);
+    const VipsImagePtr stripped =
+        keepsDensity ? withProfileOnly(in, in->Xres, in->Yres) : withProfileOnly(in, 1, 1);
     return stripped ? cancellable(stripped.get(), test) : nullptr;
 }
 
@@ -143,7 +156,8 @@ VipsImagePtr prepared(VipsImage *in, const LazyImage::CancelTest &test)
 
 LazyImage LazyImage::open(const QString &path, QSize wanted, int frame)
 {
-    return LazyImage(openImageSource(path, frame, wanted));
+    auto report = std::make_shared<DecodingReport>();
+    return LazyImage(openImageSource(path, frame, wanted, 1, report), report);
 }
 
 LazyImage LazyImage::fromImage(const QImage &image)
@@ -161,19 +175,26 @@ bool LazyImage::hasAlpha() const
     return m_image && vips_image_hasalpha(m_image.get());
 }
 
+QString LazyImage::takeDecoderMessage() const
+{
+    const QString failure = m_report ? m_report->failure() : QString();
+    return failure.isEmpty() ? takeVipsError() : failure;
+}
+
 LazyImage LazyImage::inSRGB() const
 {
     if (!m_image)
         return {};
     const VipsImagePtr managed = toSRGBByProfile(m_image.get());
-    return LazyImage(toEightBitRGB(managed ? managed.get() : m_image.get()));
+    return step(toEightBitRGB(managed ? managed.get() : m_image.get()));
 }
 
 LazyImage LazyImage::resized(QSize size) const
 {
     if (!m_image || size == this->size())
         return *this;
-    LazyImage result(hasAlpha() ? resizedWithAlpha(m_image.get(), size) : resizedPlain(m_image.get(), size));
+    LazyImage result =
+        step(hasAlpha() ? resizedWithAlpha(m_image.get(), size) : resizedPlain(m_image.get(), size));
     if (!result.isEmpty() && result.size() != size)
         vips_error("Tessaro", "the picture could not be scaled to %d by %d", size.width(), size.height());
     return result.size() == size ? result : LazyImage();
@@ -190,7 +211,7 @@ LazyImage LazyImage::painted(std::shared_ptr<StripPainter> painter) const
     if (vips_image_pipelinev(out.get(), VIPS_DEMAND_STYLE_THINSTRIP, m_image.get(), nullptr) ||
         vips_image_generate(out.get(), vips_start_one, paintStrip, vips_stop_one, m_image.get(), job))
         return {};
-    return LazyImage(std::move(out));
+    return step(std::move(out));
 }
 
 LazyImage LazyImage::flattened() const
@@ -199,7 +220,7 @@ LazyImage LazyImage::flattened() const
         return *this;
     VipsImage *out = nullptr;
     VipsImagePtr flat = taken(vips_flatten(m_image.get(), &out, nullptr), out);
-    return flat ? LazyImage(taken(vips_cast_uchar(flat.get(), &out, nullptr), out)) : LazyImage();
+    return step(flat ? taken(vips_cast_uchar(flat.get(), &out, nullptr), out) : nullptr);
 }
 
 QByteArray LazyImage::encodeJpeg(const JpegOptions &options, const CancelTest &isCancelled) const
@@ -225,6 +246,18 @@ QByteArray LazyImage::encodeTiff(const CancelTest &isCancelled) const
     size_t length = 0;
     return image ? takenBytes(vips_tiffsave_buffer(image.get(), &buffer, &length, nullptr), buffer, length)
                  : QByteArray();
+}
+
+bool LazyImage::encodePng(QIODevice &to, const CancelTest &isCancelled) const
+{
+    const VipsImagePtr image = m_image ? prepared(m_image.get(), isCancelled) : nullptr;
+    return image && vips_pngsave_target(image.get(), openDeviceTarget(to).get(), nullptr) == 0;
+}
+
+bool LazyImage::encodeTiff(QIODevice &to, const CancelTest &isCancelled, bool keepsDensity) const
+{
+    const VipsImagePtr image = m_image ? prepared(m_image.get(), isCancelled, keepsDensity) : nullptr;
+    return image && vips_tiffsave_target(image.get(), openDeviceTarget(to).get(), nullptr) == 0;
 }
 
 QImage LazyImage::toImage() const

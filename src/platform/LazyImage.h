@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/DecodingReport.h"
 #include "platform/JpegOptions.h"
 #include "platform/Vips.h"
 
@@ -8,6 +9,8 @@
 #include <QImage>
 #include <QRect>
 #include <QSize>
+
+class QIODevice;
 
 namespace platform {
 
@@ -42,6 +45,10 @@ public:
     QSize size() const;
     bool hasAlpha() const;
     VipsImage *vips() const { return m_image.get(); }
+    /// Once it has been computed: why that failed, in the decoder's words, or nothing.
+    QString takeDecoderMessage() const;
+    /// Once it has been computed: whether its file ends with the picture but lacks the mark of its end.
+    bool lacksEnd() const { return m_report && m_report->lacksEnd(); }
 
     /// 8-bit sRGB with three bands, or four when the picture has transparency; an embedded profile is
     /// honoured.
@@ -55,17 +62,27 @@ public:
     /// The encoders run the whole picture through. They carry an sRGB profile and no other metadata, and
     /// answer no bytes on failure. `isCancelled` is asked now and then from the computing thread; once it
     /// answers true, encoding fails.
+    /// A density of the source goes into a TIFF where asked for, into a JPEG always, and into a PNG never.
     using CancelTest = std::function<bool()>;
     QByteArray encodeJpeg(const JpegOptions &options, const CancelTest &isCancelled = {}) const;
     QByteArray encodePng(const CancelTest &isCancelled = {}) const;
     QByteArray encodeTiff(const CancelTest &isCancelled = {}) const;
+    /// The same straight into a device, from where it stands; they answer whether it worked.
+    bool encodePng(QIODevice &to, const CancelTest &isCancelled) const;
+    bool encodeTiff(QIODevice &to, const CancelTest &isCancelled, bool keepsDensity) const;
     /// The whole picture in memory, RGB32 or premultiplied ARGB32.
     QImage toImage() const;
 
 private:
-    explicit LazyImage(VipsImagePtr image) : m_image(std::move(image)) {}
+    explicit LazyImage(VipsImagePtr image, std::shared_ptr<DecodingReport> report = {})
+        : m_image(std::move(image)), m_report(std::move(report))
+    {
+    }
+    /// What is made of this picture, and so comes from the same decoder.
+    LazyImage step(VipsImagePtr image) const { return LazyImage(std::move(image), m_report); }
 
     std::shared_ptr<VipsImage> m_image;
+    std::shared_ptr<DecodingReport> m_report;
 };
 
 } // namespace platform

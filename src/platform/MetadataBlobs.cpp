@@ -1,6 +1,7 @@
 #include "platform/MetadataBlobs.h"
 
 #include "platform/Exiv2Library.h"
+#include "platform/ImageSource.h"
 #include "platform/TiffStructure.h"
 #include "platform/TiffTags.h"
 
@@ -119,8 +120,7 @@ MetadataBlobs metadataOfDecoder(VipsImage *image)
 
 MetadataBlobs readMetadataBlobs(const QString &path)
 {
-    initializeVips();
-    const VipsImagePtr image(vips_image_new_from_file(QFile::encodeName(path).constData(), nullptr));
+    const VipsImagePtr image = openImageSource(path);
     MetadataBlobs blobs = image ? metadataOfDecoder(image.get()) : MetadataBlobs();
     if (!image)
         takeVipsError();

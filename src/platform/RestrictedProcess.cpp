@@ -38,6 +38,7 @@ void limitThisProcess()
         limit(RLIMIT_AS, memoryLimit);
     limit(RLIMIT_CPU, cpuSeconds);
     limit(RLIMIT_FSIZE, rlim_t(spaceLimit));
+    std::signal(SIGXFSZ, SIG_DFL);
     limit(RLIMIT_CORE, 0);
     prctl(PR_SET_PDEATHSIG, SIGKILL);
 }

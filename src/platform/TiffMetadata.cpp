@@ -3,12 +3,12 @@
 #include "platform/Exiv2Library.h"
 #include "platform/PhotoshopResources.h"
 #include "platform/TiffDirectoryWriter.h"
+#include "platform/TiffFile.h"
 #include "platform/TiffStructure.h"
 #include "platform/TiffTags.h"
 
 #include <algorithm>
 #include <limits>
-#include <QIODevice>
 
 namespace platform {
 
@@ -48,15 +48,15 @@ QByteArray turned(QByteArray value, qsizetype unit)
     return value;
 }
 
-/// The entries of the encoded file, whose bytes come to stand at `origin`.
-void addPixelEntries(TiffDirectoryWriter &writer, QByteArrayView bytes, const TiffStructure &tiff,
-                     const TiffStructure::Directory &directory, quint32 origin)
+/// The entries of the encoded file, whose bytes stand at `origin`.
+void addPixelEntries(TiffDirectoryWriter &writer, const TiffFile &tiff, const TiffFile::Directory &directory,
+                     quint32 origin)
 {
-    for (const TiffStructure::Entry &entry : directory.entries) {
-        QByteArray value = bytes.sliced(entry.position, entry.length).toByteArray();
+    for (const TiffFile::Entry &entry : directory.entries) {
+        QByteArray value = entry.value;
         if (entry.tag == tifftag::StripOffsets || entry.tag == tifftag::TileOffsets) {
             value.clear();
-            for (const quint32 position : tiff.numbers(entry))
+            for (const quint32 position : tiff.numbers(directory, entry.tag))
                 value += writer.number(origin + position);
             writer.set(entry.tag, TiffStructure::Long, entry.count, value);
             continue;
@@ -132,34 +132,46 @@ void addIptc(TiffDirectoryWriter &writer, QByteArray record)
 
 } // namespace
 
-bool writeTiffWithMetadata(const QByteArray &tiff, const CarriedMetadata &metadata, QIODevice &target)
+TiffMetadata::TiffMetadata(const CarriedMetadata &metadata)
+    : m_head(padded(metadata.exif()))
+    , m_xmp(joinedXmp(metadata.xmpPackets()))
+    , m_resources(metadata.photoshopResources())
 {
-    constexpr qsizetype firstDirectoryField = 4;
-    const std::optional<TiffStructure> pixels = TiffStructure::read(tiff);
+    if (!TiffStructure::read(m_head))
+        m_head = QByteArray("II*\0\0\0\0\0", 8);
+}
+
+qsizetype TiffMetadata::length() const
+{
+    // Room for the directory and, a second time, what Photoshop's resources hold.
+    constexpr qsizetype directory = 1 << 20;
+    return m_head.size() + m_xmp.size() + 2 * m_resources.size() + directory;
+}
+
+bool TiffMetadata::finish(std::shared_ptr<QIODevice> written, QIODevice &target) const
+{
+    constexpr qint64 firstDirectoryField = 4;
+    const qint64 length = written->size();
+    std::optional<TiffFile> pixels = TiffFile::read(std::move(written), m_head.size());
     const auto pixelDirectory = pixels ? pixels->directoryAt(pixels->firstDirectory()) : std::nullopt;
     if (!pixelDirectory)
         return false;
-    QByteArray head = padded(metadata.exif());
-    if (!TiffStructure::read(head))
-        head = QByteArray("II*\0\0\0\0\0", 8);
-    const TiffStructure exif = *TiffStructure::read(head);
+    const TiffStructure exif = *TiffStructure::read(m_head);
     TiffDirectoryWriter writer(exif.isBigEndian());
-    addPixelEntries(writer, tiff, *pixels, *pixelDirectory, quint32(head.size()));
-    addExifEntries(writer, head, exif);
-    const QByteArray resources = metadata.photoshopResources();
-    addBytes(writer, tifftag::XmpPacket, joinedXmp(metadata.xmpPackets()));
-    addBytes(writer, tifftag::ResourcesOfPhotoshop, resources);
-    addIptc(writer, iptcRecord(resources));
+    addPixelEntries(writer, *pixels, *pixelDirectory, quint32(m_head.size()));
+    addExifEntries(writer, m_head, exif);
+    addBytes(writer, tifftag::XmpPacket, m_xmp);
+    addBytes(writer, tifftag::ResourcesOfPhotoshop, m_resources);
+    addIptc(writer, iptcRecord(m_resources));
 
-    const qsizetype position = head.size() + even(tiff.size());
+    const qint64 position = even(length);
     const QByteArray directory = writer.bytes(quint32(position));
-    if (position + directory.size() > qsizetype(std::numeric_limits<quint32>::max()))
+    if (position + directory.size() > qint64(std::numeric_limits<quint32>::max()))
         return false;
-    head.replace(firstDirectoryField, 4, writer.number(quint32(position)));
-    target.write(head);
-    target.write(tiff);
-    target.write(QByteArray(tiff.size() % 2, '\0'));
-    target.write(directory);
+    target.seek(length);
+    target.write(QByteArray(position - length, '\0') + directory);
+    target.seek(firstDirectoryField);
+    target.write(writer.number(quint32(position)));
     return true;
 }
 

@@ -8,6 +8,7 @@ namespace platform {
 namespace tifftag {
 
 enum Tag : quint16 {
+    NewSubfileType = 0x00FE,
     Width = 0x0100,
     Height = 0x0101,
     BitsPerSample = 0x0102,

@@ -1,11 +1,16 @@
 #include "platform/Vips.h"
 
+#include <csignal>
 #include <mutex>
+#include <QImageReader>
 #include <QStringList>
 
 namespace platform {
 
 namespace {
+
+/// Of 20000 by 20000 pixels in four bytes each.
+constexpr int largestPictureInMegabytes = 1526;
 
 void discardMessage(const gchar *, GLogLevelFlags, const gchar *, gpointer) {}
 
@@ -18,6 +23,10 @@ void initializeVips()
         VIPS_INIT("tessaro");
         vips_concurrency_set(1);
         vips_cache_set_max(0);
+        // A file that may not grow any further is an error of its writer, and no reason to end.
+        std::signal(SIGXFSZ, SIG_IGN);
+        // The toolkit would stop at a twelfth of this, which photos outgrow.
+        QImageReader::setAllocationLimit(largestPictureInMegabytes);
         // Its warnings tell of oddities in camera files that no reader of ours can act on.
         g_log_set_handler("VIPS", GLogLevelFlags(G_LOG_LEVEL_WARNING | G_LOG_LEVEL_INFO | G_LOG_LEVEL_DEBUG),
                           discardMessage, nullptr);

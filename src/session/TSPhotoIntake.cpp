@@ -2,6 +2,7 @@
 
 #include "platform/DrawingFile.h"
 #include "platform/FrameReader.h"
+#include "platform/ImageFile.h"
 #include "platform/ImageProperties.h"
 #include "session/TSDataManager.h"
 #include "session/TSFileUtility.h"
@@ -43,7 +44,8 @@ QString reasonForRefusal(const QString &path)
         return qtTrId("The file may not be read: permission is missing.");
     if (info.size() == 0)
         return qtTrId("The file is empty.");
-    return qtTrId("The file is not a picture that can be read.");
+    const QString refusal = platform::refusalOfImage(path);
+    return refusal.isEmpty() ? qtTrId("The file is not a picture that can be read.") : refusal;
 }
 
 std::shared_ptr<TSImageBrowserItem> newItem(const QString &path)
@@ -137,7 +139,7 @@ void TSPhotoIntake::addFrames(const QString &path, bool isInsert)
     platform::FrameReader reader(path);
     const int frames = reader.frameCount();
     if (frames == 0)
-        return refuse(path, qtTrId("The file is not a picture that can be read."));
+        return refuse(path, reasonForRefusal(path));
     // A cancelled intake finishes its file: half of the frames could not be completed later, since the file
     // would count as a duplicate.
     for (int frame = 0; frame < frames; ++frame) {

@@ -9,12 +9,42 @@
 #include "support/ExportSession.h"
 
 #include <QDir>
+#include <sys/resource.h>
 
 namespace {
 
 QByteArray jpegOf(const QImage &image, const QSize &sampling = {1, 1}, int quality = 90)
 {
     return platform::LazyImage::fromImage(image).encodeJpeg({quality, sampling});
+}
+
+/// The first bands of a picture by libvips' encoder, with options of it such as "[interlace]".
+QByteArray jpegByVips(const QImage &image, const char *options, int bands = 3)
+{
+    VipsImage *part = nullptr;
+    EXPECT_EQ(vips_extract_band(platform::LazyImage::fromImage(image).vips(), &part, 0, "n", bands, nullptr),
+              0);
+    void *data = nullptr;
+    size_t length = 0;
+    EXPECT_EQ(
+        vips_image_write_to_buffer(part, (QByteArray(".jpg") + options).constData(), &data, &length, nullptr),
+        0);
+    const QByteArray bytes(static_cast<const char *>(data), qsizetype(length));
+    g_free(data);
+    g_object_unref(part);
+    return bytes;
+}
+
+/// Within the data, bits that no table holds a code for.
+QByteArray spoilt(QByteArray jpeg)
+{
+    return jpeg.replace(jpeg.size() * 3 / 4, 24, QByteArray("\xFF\0", 2).repeated(12));
+}
+
+/// Bytes between two segments that belong to neither.
+QByteArray withStrayBytes(QByteArray jpeg)
+{
+    return jpeg.insert(jpeg.indexOf("\xFF\xC4"), "abc");
 }
 
 class WriterTest : public ExportTest {
@@ -170,6 +200,12 @@ TEST_F(WriterTest, TheDensityOfAPhotoStaysWhateverItsSize)
         const QByteArray file = bytesOf(write(TSFileType::JPG, "o.jpg", size));
         EXPECT_EQ(file.mid(units, 5), QByteArray("\1\1\x2C\1\x2C", 5)) << size.width();
     }
+    const auto inTiff = [this](qint64 index) {
+        const auto tiff = platform::LazyImage::open(write(TSFileType::TIFF, "o.tiff", {160, 120}, index), {});
+        return std::lround(tiff.vips()->Xres * 25.4);
+    };
+    EXPECT_EQ(inTiff(0), 300);
+    EXPECT_EQ(inTiff(1), 72);
     const QByteArray file = bytesOf(write(TSFileType::JPG, "o.jpg", {640, 480}, 1));
     EXPECT_EQ(file.mid(units, 5), QByteArray("\1\0\x48\0\x48", 5)) << "72 to the inch says nothing";
 }
@@ -200,4 +236,59 @@ TEST_F(WriterTest, WhatIsGivenUpOrDamagedLeavesNothing)
     EXPECT_TRUE(m_result.reason.startsWith(u"A JPEG picture has at most 65500"))
         << m_result.reason.toStdString();
     EXPECT_EQ(filesIn(session.folder.path()), before);
+}
+
+TEST_F(WriterTest, DamageIsJudgedByEveryWarning)
+{
+    const QImage image = noise({400, 320});
+    const QByteArray color = jpegOf(image);
+    const QByteArray scans = jpegByVips(image, "[interlace]");
+    const QByteArray grey = jpegByVips(image, "", 1);
+    enum Fate { Whole, WholeButEnd, Damaged };
+    const std::pair<QByteArray, Fate> cases[] = {
+        {color, Whole},
+        {withStrayBytes(color), Whole},
+        {color.chopped(2), WholeButEnd},
+        {color.chopped(1), WholeButEnd},
+        {scans.chopped(2), WholeButEnd},
+        {grey.chopped(2), WholeButEnd},
+        {color.chopped(3), Damaged},
+        {spoilt(color), Damaged},
+        {withStrayBytes(spoilt(color)), Damaged},
+        {withStrayBytes(spoilt(grey)), Damaged},
+        {withStrayBytes(spoilt(scans)), Damaged},
+        {scans.first(scans.lastIndexOf("\xFF\xDA")), Damaged},
+        {scans.first(scans.lastIndexOf("\xFF\xDA")) + "\xFF\xD9", Whole},
+    };
+    for (size_t i = 0; i < std::size(cases); ++i)
+        takeIn(session.write(QStringLiteral("%1.jpg").arg(i), cases[i].first));
+    ASSERT_EQ(session.photos.photoCount(), std::size(cases));
+    for (size_t i = 0; i < std::size(cases); ++i)
+        for (const QSize size : {image.size(), QSize(90, 70)}) {
+            write(TSFileType::JPG, "o.jpg", size, qint64(i));
+            const auto reason = m_result.reason.toStdString();
+            EXPECT_EQ(m_result.isWritten, cases[i].second != Damaged) << i << ' ' << size.width() << reason;
+            EXPECT_EQ(m_result.reason.startsWith(u"The file is damaged"), !m_result.isWritten) << i << reason;
+            EXPECT_EQ(!m_result.note.isEmpty(), cases[i].second == WholeButEnd) << i;
+        }
+}
+
+TEST_F(WriterTest, AFileThatMayNotGrowIsNamed)
+{
+    takeIn(session.writePng("a.png", noise({700, 500})));
+    struct rlimit before {};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const struct rlimit little {
+        1 << 16, before.rlim_max
+    };
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &little), 0);
+    QStringList reasons;
+    for (const auto &[type, name] : types) {
+        write(type, name, {700, 500});
+        reasons.append(m_result.reason);
+    }
+    setrlimit(RLIMIT_FSIZE, &before);
+    for (const QString &reason : reasons)
+        EXPECT_TRUE(reason.startsWith(u"The file could not be written")) << reason.toStdString();
+    EXPECT_EQ(filesIn(session.folder.path()), words("a.png"));
 }

@@ -52,12 +52,14 @@ QByteArray pixels(const QByteArray &file)
     return result;
 }
 
-QByteArray written(const QByteArray &tiff, const CarriedMetadata &metadata)
+QByteArray written(const QByteArray &tiff, const CarriedMetadata &carried)
 {
-    QBuffer target;
-    target.open(QIODevice::WriteOnly);
-    EXPECT_TRUE(platform::writeTiffWithMetadata(tiff, metadata, target));
-    return target.data();
+    const platform::TiffMetadata metadata(carried);
+    const auto target = std::make_shared<QBuffer>();
+    target->open(QIODevice::ReadWrite);
+    target->write(metadata.head() + tiff);
+    EXPECT_TRUE(metadata.finish(target, *target));
+    return target->data();
 }
 
 std::unique_ptr<Exiv2::Image> opened(const QByteArray &file)
