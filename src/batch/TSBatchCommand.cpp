@@ -116,7 +116,8 @@ int TSBatchCommand::exportAll()
         m_reporter.warning(QStringLiteral("the profile %1 holds no marks that can be read").arg(unreadable));
         return TSBatchStatus::WrongUsage;
     }
-    warnOfFonts();
+    if (!warnOfFonts())
+        return TSBatchStatus::WrongUsage;
     if (!isExportWanted())
         warnOfRefusals();
     const bool isSaved = saveProfile();
@@ -154,14 +155,20 @@ bool TSBatchCommand::saveProfile()
     return failure.isEmpty();
 }
 
-void TSBatchCommand::warnOfFonts()
+/// Answers whether texts can be drawn at all, if there are any.
+bool TSBatchCommand::warnOfFonts()
 {
     QSet<QString> families;
     collectFonts(TSOverlayManager::overlayManager()->overlays(), families);
+    if (!families.isEmpty() && !platform::hasAnyFont()) {
+        m_reporter.warning(QStringLiteral("no font is installed, so that texts cannot be drawn"));
+        return false;
+    }
     for (const QString &family : families)
         if (!platform::isFontFamilyAvailable(family))
             m_reporter.warning(
                 QStringLiteral("the font %1 is not installed; another one stands in for it").arg(family));
+    return true;
 }
 
 /// An export tells of them in their place among the photos.

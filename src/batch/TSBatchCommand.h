@@ -34,7 +34,7 @@ private:
     bool isExportWanted() const;
     bool writePhotos();
     bool saveProfile();
-    void warnOfFonts();
+    bool warnOfFonts();
     void warnOfRefusals();
     void takePhotosIn();
     QString outputFolder() const;
