@@ -40,9 +40,11 @@ std::optional<QRectF> boundingBox(const QString &path)
     if (file.size() > 2 * part && file.seek(file.size() - part))
         text += '\n' + file.read(part);
     const QString words = QString::fromLatin1(text);
-    static const QString number = QStringLiteral("\\s+(-?[0-9.]+)");
+    // Not every maker leaves a blank behind the colon.
+    static const QString numbers =
+        QStringLiteral("\\s*(-?[0-9.]+)") + QStringLiteral("\\s+(-?[0-9.]+)").repeated(3);
     for (const QString &key : {QStringLiteral("%%HiResBoundingBox:"), QStringLiteral("%%BoundingBox:")}) {
-        const QRegularExpressionMatch match = QRegularExpression(key + number.repeated(4)).match(words);
+        const QRegularExpressionMatch match = QRegularExpression(key + numbers).match(words);
         const auto at = [&](int i) { return match.captured(i).toDouble(); };
         const QRectF box(at(1), at(2), at(3) - at(1), at(4) - at(2));
         if (match.hasMatch() && box.width() > 0 && box.height() > 0)
