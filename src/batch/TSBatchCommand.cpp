@@ -111,7 +111,10 @@ int TSBatchCommand::exportAll()
 {
     const TSBatchSignals signals(m_run.isCancelled);
     takePhotosIn();
-    const QString unreadable = publishCanvas() ? TSBatchMarkBuilder::build(m_options.marks) : QString();
+    QStringList missing;
+    const QString unreadable =
+        publishCanvas() ? TSBatchMarkBuilder::build(m_options.marks, missing) : QString();
+    warnOfPictures(missing);
     if (!unreadable.isEmpty()) {
         m_reporter.warning(QStringLiteral("the profile %1 holds no marks that can be read").arg(unreadable));
         return TSBatchStatus::WrongUsage;
@@ -148,7 +151,9 @@ bool TSBatchCommand::saveProfile()
 {
     if (m_options.savedProfile.isEmpty() || m_options.isDryRun || m_run.isCancelled)
         return true;
-    const QString failure = TSProfileSaver::saveProfile(m_options.savedProfile);
+    QStringList missing;
+    const QString failure = TSProfileSaver::saveProfile(m_options.savedProfile, &missing);
+    warnOfPictures(missing);
     if (!failure.isEmpty())
         m_reporter.warning(
             QStringLiteral("the profile %1 was not saved: %2").arg(m_options.savedProfile, failure));
@@ -169,6 +174,12 @@ bool TSBatchCommand::warnOfFonts()
             m_reporter.warning(
                 QStringLiteral("the font %1 is not installed; another one stands in for it").arg(family));
     return true;
+}
+
+void TSBatchCommand::warnOfPictures(const QStringList &missing)
+{
+    for (const QString &picture : missing)
+        m_reporter.warning(QStringLiteral("the picture %1 of the profile is missing").arg(picture));
 }
 
 /// An export tells of them in their place among the photos.

@@ -35,6 +35,7 @@ private:
     bool writePhotos();
     bool saveProfile();
     bool warnOfFonts();
+    void warnOfPictures(const QStringList &missing);
     void warnOfRefusals();
     void takePhotosIn();
     QString outputFolder() const;
