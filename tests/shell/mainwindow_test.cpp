@@ -234,6 +234,7 @@ TEST_F(MainWindowTest, ANameForALayoutIsAskedForUntilThereIsOne)
 {
     const QString photo = session.writeJpeg("photo.jpg", plainImage({300, 200}));
     addPhotos({photo});
+    window().addTextAction->trigger();
     ASSERT_EQ(TSProfileSaver::saveProfile("Taken"), "");
     const QString archive = TSProfileLibrary::archivePath(TSProfileLibrary::userPackage("Taken"));
     ASSERT_TRUE(QFile::remove(archive));
@@ -257,6 +258,9 @@ TEST_F(MainWindowTest, ANameForALayoutIsAskedForUntilThereIsOne)
     });
     hand.start(20);
     window().openSaveProfile->trigger();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return asked.size() == qsizetype(steps.size()) && !QApplication::activeModalWidget(); },
+        20000));
     hand.stop();
     EXPECT_EQ(asked, QStringList({"kept", "kept", "kept", "kept"}));
     EXPECT_TRUE(QFile::exists(archive)) << "the last answer was to replace it";
