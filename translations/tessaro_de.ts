@@ -137,6 +137,14 @@
         <source>This file could not be shown: </source>
         <translation>Diese Datei konnte nicht angezeigt werden: </translation>
     </message>
+    <message id="FileExisted">
+        <source>A layout named “%1” exists already</source>
+        <translation>Es gibt bereits ein Layout namens „%1“</translation>
+    </message>
+    <message id="FileExistedTip">
+        <source>Replacing it cannot be undone.</source>
+        <translation>Das Ersetzen lässt sich nicht rückgängig machen.</translation>
+    </message>
     <message id="FilesRefused">
         <source>Files that gave no photo: %1</source>
         <translation>Dateien, die kein Foto ergaben: %1</translation>
@@ -172,6 +180,10 @@
     <message id="Keep Original Size">
         <source>Keep Original Size</source>
         <translation>Originalgröße behalten</translation>
+    </message>
+    <message id="LayoutLacksPictures">
+        <source>Pictures of this layout could not be found: %1</source>
+        <translation>Bilder dieses Layouts fehlen: %1</translation>
     </message>
     <message id="Loading...">
         <source>Loading…</source>

@@ -137,6 +137,14 @@
         <source>This file could not be shown: </source>
         <translation>This file could not be shown: </translation>
     </message>
+    <message id="FileExisted">
+        <source>A layout named “%1” exists already</source>
+        <translation>A layout named “%1” exists already</translation>
+    </message>
+    <message id="FileExistedTip">
+        <source>Replacing it cannot be undone.</source>
+        <translation>Replacing it cannot be undone.</translation>
+    </message>
     <message id="FilesRefused">
         <source>Files that gave no photo: %1</source>
         <translation>Files that gave no photo: %1</translation>
@@ -172,6 +180,10 @@
     <message id="Keep Original Size">
         <source>Keep Original Size</source>
         <translation>Keep Original Size</translation>
+    </message>
+    <message id="LayoutLacksPictures">
+        <source>Pictures of this layout could not be found: %1</source>
+        <translation>Pictures of this layout could not be found: %1</translation>
     </message>
     <message id="Loading...">
         <source>Loading…</source>

@@ -135,6 +135,14 @@
         <source>This file could not be shown: </source>
         <translation>无法显示此文件：</translation>
     </message>
+    <message id="FileExisted">
+        <source>A layout named “%1” exists already</source>
+        <translation>已有名为“%1”的版式</translation>
+    </message>
+    <message id="FileExistedTip">
+        <source>Replacing it cannot be undone.</source>
+        <translation>替换后无法撤销。</translation>
+    </message>
     <message id="FilesRefused">
         <source>Files that gave no photo: %1</source>
         <translation>未能添加的文件：%1</translation>
@@ -170,6 +178,10 @@
     <message id="Keep Original Size">
         <source>Keep Original Size</source>
         <translation>保持原始大小</translation>
+    </message>
+    <message id="LayoutLacksPictures">
+        <source>Pictures of this layout could not be found: %1</source>
+        <translation>找不到此版式的图片：%1</translation>
     </message>
     <message id="Loading...">
         <source>Loading…</source>

@@ -114,12 +114,16 @@ int TSBatchCommand::exportAll()
 {
     const TSBatchSignals signals(m_run.isCancelled);
     takePhotosIn();
-    const QString unreadable = publishCanvas() ? TSBatchMarkBuilder::build(m_options.marks) : QString();
+    QStringList missing;
+    const QString unreadable =
+        publishCanvas() ? TSBatchMarkBuilder::build(m_options.marks, missing) : QString();
+    warnOfPictures(missing);
     if (!unreadable.isEmpty()) {
         m_reporter.warning(QStringLiteral("the profile %1 holds no marks that can be read").arg(unreadable));
         return TSBatchStatus::WrongUsage;
     }
-    warnOfFonts();
+    if (!warnOfFonts())
+        return TSBatchStatus::WrongUsage;
     if (!isExportWanted())
         warnOfRefusals();
     if (const QString refusal = nameOutputs(); isExportWanted() && !refusal.isEmpty()) {
@@ -153,21 +157,35 @@ bool TSBatchCommand::saveProfile()
 {
     if (m_options.savedProfile.isEmpty() || m_options.isDryRun || m_run.isCancelled)
         return true;
-    const QString failure = TSProfileSaver::saveProfile(m_options.savedProfile);
+    QStringList missing;
+    const QString failure = TSProfileSaver::saveProfile(m_options.savedProfile, &missing);
+    warnOfPictures(missing);
     if (!failure.isEmpty())
         m_reporter.warning(
             QStringLiteral("the profile %1 was not saved: %2").arg(m_options.savedProfile, failure));
     return failure.isEmpty();
 }
 
-void TSBatchCommand::warnOfFonts()
+/// Answers whether texts can be drawn at all, if there are any.
+bool TSBatchCommand::warnOfFonts()
 {
     QSet<QString> families;
     collectFonts(TSOverlayManager::overlayManager()->overlays(), families);
+    if (!families.isEmpty() && !platform::hasAnyFont()) {
+        m_reporter.warning(QStringLiteral("no font is installed, so that texts cannot be drawn"));
+        return false;
+    }
     for (const QString &family : families)
         if (!platform::isFontFamilyAvailable(family))
             m_reporter.warning(
                 QStringLiteral("the font %1 is not installed; another one stands in for it").arg(family));
+    return true;
+}
+
+void TSBatchCommand::warnOfPictures(const QStringList &missing)
+{
+    for (const QString &picture : missing)
+        m_reporter.warning(QStringLiteral("the picture %1 of the profile is missing").arg(picture));
 }
 
 /// An export tells of them in their place among the photos.

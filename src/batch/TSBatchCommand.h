@@ -34,7 +34,8 @@ private:
     bool isExportWanted() const;
     bool writePhotos();
     bool saveProfile();
-    void warnOfFonts();
+    bool warnOfFonts();
+    void warnOfPictures(const QStringList &missing);
     void warnOfRefusals();
     void takePhotosIn();
     QString outputFolder() const;

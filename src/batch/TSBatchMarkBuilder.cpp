@@ -70,7 +70,7 @@ QSizeF naturalSize(const TSOverlay &overlay)
 
 } // namespace
 
-QString TSBatchMarkBuilder::build(const std::vector<TSBatchMark> &marks)
+QString TSBatchMarkBuilder::build(const std::vector<TSBatchMark> &marks, QStringList &missing)
 {
     TSDataManager *data = TSDataManager::dataManager();
     TSPhotoManager *photos = TSPhotoManager::photoManager();
@@ -83,10 +83,14 @@ QString TSBatchMarkBuilder::build(const std::vector<TSBatchMark> &marks)
         });
     data->pUnit = onlyPixels ? TSOffsetUnit::Pixel : TSOffsetUnit::Percentage;
     for (auto mark = marks.rbegin(); mark != marks.rend(); ++mark) {
-        if (mark->kind != TSBatchMark::Kind::Profile)
+        if (mark->kind != TSBatchMark::Kind::Profile) {
             add(*mark, *shown);
-        else if (!TSProfileApplier().performProfile(mark->profilePath))
+            continue;
+        }
+        TSProfileApplier applier;
+        if (!applier.performProfile(mark->profilePath))
             return mark->profilePath;
+        missing += applier.missingPictures();
     }
     return {};
 }

@@ -13,8 +13,9 @@ class TSText;
 class TSBatchMarkBuilder {
 public:
     /// Fills the overlay manager, the first mark on top, and sets the session's unit. Answers the path of a
-    /// profile that no mark could be read from, or nothing.
-    static QString build(const std::vector<TSBatchMark> &marks);
+    /// profile that no mark could be read from, or nothing; `missing` gets the names of the pictures that
+    /// profiles should have and have not.
+    static QString build(const std::vector<TSBatchMark> &marks, QStringList &missing);
 
 private:
     static void add(const TSBatchMark &mark, const TSPhoto &shown);

@@ -1,5 +1,7 @@
 #include "naming/TSDateTimeToken.h"
 
+#include "platform/KeyedArchiver.h"
+#include "platform/KeyedUnarchiver.h"
 #include "session/TSNotificationCenter.h"
 
 namespace {
@@ -9,6 +11,9 @@ platform::DateFormatter formatterFor(const QString &format, const QTimeZone &zon
     using platform::DateFormatter;
     return format.isEmpty() ? DateFormatter::mediumDate(zone) : DateFormatter::withPattern(format, zone);
 }
+
+/// An addition to what archives of tokens hold. Who does not know it passes over it.
+constexpr QStringView indexKey = u"TessaroTokenIndex";
 
 } // namespace
 
@@ -22,6 +27,15 @@ TSDateTimeToken::TSDateTimeToken(const QString &className, platform::KeyedUnarch
                                  const QStringList &formats)
     : TSToken(coder), m_className(className), m_formats(formats)
 {
+    const qint64 index = coder.decodeInteger(indexKey);
+    m_index = index >= 0 && index < formats.size() ? index : 0;
+}
+
+void TSDateTimeToken::encodeWithCoder(platform::KeyedArchiver &coder) const
+{
+    TSToken::encodeWithCoder(coder);
+    if (m_index != 0)
+        coder.encodeInteger(indexKey, m_index);
 }
 
 QStringList TSDateTimeToken::tokenMenu() const

@@ -18,6 +18,7 @@ public:
     QStringList classChain() const override { return {m_className, QStringLiteral("TSToken")}; }
     QStringList tokenMenu() const override;
     void editCellAction(int itemIndex) override;
+    void encodeWithCoder(platform::KeyedArchiver &coder) const override;
 
     /// What writes dates in the chosen variant; nothing if `index` is no variant. Making one costs far more
     /// than using it.
@@ -34,8 +35,8 @@ public:
 
 protected:
     TSDateTimeToken(const QString &className, const QString &name, const QStringList &formats);
-    /// Archives hold neither `index` nor `dateArray`: a decoded token has the first variant, and a choice in
-    /// its menu leaves `showName` empty.
+    /// Archives hold no `dateArray`: a choice in a decoded token's menu leaves `showName` empty. Older ones
+    /// hold no `index` either, and give the first variant.
     TSDateTimeToken(const QString &className, platform::KeyedUnarchiver &coder, const QStringList &formats);
 
 private:

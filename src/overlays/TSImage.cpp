@@ -116,7 +116,10 @@ QStringList TSImage::classChain() const
 void TSImage::encodeWithCoder(platform::KeyedArchiver &coder) const
 {
     TSOverlay::encodeWithCoder(coder);
-    coder.encodeObject(u"imagePath", m_imagePath);
+    // Where the program lies on this machine is nobody's business, and its pictures are found by their names.
+    coder.encodeObject(u"imagePath", m_isFromFinder
+                                         ? m_imagePath
+                                         : QStringLiteral("Stickers/") + lastComponent(m_imagePath));
     coder.encodeObject(u"imageName", m_imageName);
     coder.encodeObject(u"oldPath", m_oldPath);
     coder.encodeBool(u"isFromFinder", m_isFromFinder);

@@ -48,13 +48,15 @@ public:
     void render(const TSTextPicture &wanted);
     /// Premultiplied; null when there is nothing to draw on.
     const QImage &image() const { return m_image; }
-    /// The picture's size in points; a fraction of a pixel larger than the frame it was made for.
-    QSizeF pictureSize() const { return QSizeF(m_image.size()) / m_picture.factor; }
+    /// The picture's size in points; a fraction of a pixel larger than the frame it was made for. A picture
+    /// that there is no memory for has fewer pixels than were wanted, and is stretched.
+    QSizeF pictureSize() const { return QSizeF(m_image.size()) / pixelsPerPoint(); }
     /// Where the picture lies for a frame, which may have been moved or stretched since the picture was made.
     QRectF placeInFrame(const QRectF &frame) const;
 
 private:
     const platform::TextLayout &layoutOf(const platform::AttributedString &text);
+    double pixelsPerPoint() const { return m_picture.factor * m_share; }
     void drawGlow(QPainter &painter);
     void drawStroke(QPainter &painter, double strokeWidth, const platform::Color &color);
     void drawText(QPainter &painter, const platform::TextAttributes &over);
@@ -63,4 +65,6 @@ private:
     std::unique_ptr<platform::TextLayout> m_layout;
     TSTextPicture m_picture;
     QImage m_image;
+    /// Of the wanted pixels, along each side.
+    double m_share = 1;
 };

@@ -93,7 +93,7 @@ std::optional<QString> namedText(const QString &name, const TSPhoto &photo)
 std::optional<QString> shootingText(const TSDateTimeToken &token, const TSPhoto &photo)
 {
     const QTimeZone zone = QTimeZone::utc();
-    const auto format = platform::DateFormatter::withPattern(QStringLiteral("yyyy:MM:dd HH:mm:ss"), zone);
+    const auto format = platform::DateFormatter::ofMachines(QStringLiteral("yyyy:MM:dd HH:mm:ss"), zone);
     const auto date = format.date(exif(photo).value(QStringLiteral("DateTimeOriginal")).toString());
     return token.text(date.value_or(QDateTime()), zone);
 }

@@ -46,8 +46,19 @@ DateFormatter DateFormatter::mediumDate(const QTimeZone &zone)
 
 DateFormatter DateFormatter::withPattern(const QString &pattern, const QTimeZone &zone)
 {
+    return withPattern(pattern, zone, userLocale());
+}
+
+DateFormatter DateFormatter::ofMachines(const QString &pattern, const QTimeZone &zone)
+{
+    return withPattern(pattern, zone, icu::Locale::getRoot());
+}
+
+DateFormatter DateFormatter::withPattern(const QString &pattern, const QTimeZone &zone,
+                                         const icu::Locale &locale)
+{
     UErrorCode status = U_ZERO_ERROR;
-    auto format = std::make_unique<icu::SimpleDateFormat>(toIcu(pattern), userLocale(), status);
+    auto format = std::make_unique<icu::SimpleDateFormat>(toIcu(pattern), locale, status);
     if (U_FAILURE(status))
         format.reset();
     return {std::move(format), zone};

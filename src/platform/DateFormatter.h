@@ -9,6 +9,7 @@
 
 U_NAMESPACE_BEGIN
 class DateFormat;
+class Locale;
 U_NAMESPACE_END
 
 namespace platform {
@@ -23,6 +24,11 @@ public:
     static DateFormatter withPattern(const QString &pattern,
                                      const QTimeZone &zone = QTimeZone::systemTimeZone());
 
+    /// The same for dates that machines write: in the Gregorian calendar and its digits, whatever the user's
+    /// are.
+    static DateFormatter ofMachines(const QString &pattern,
+                                    const QTimeZone &zone = QTimeZone::systemTimeZone());
+
     DateFormatter(DateFormatter &&) noexcept;
     DateFormatter &operator=(DateFormatter &&) noexcept;
     ~DateFormatter();
@@ -33,6 +39,8 @@ public:
     std::optional<QDateTime> date(QStringView text) const;
 
 private:
+    static DateFormatter withPattern(const QString &pattern, const QTimeZone &zone,
+                                     const icu::Locale &locale);
     DateFormatter(std::unique_ptr<icu::DateFormat> format, const QTimeZone &zone);
 
     std::unique_ptr<icu::DateFormat> m_format;

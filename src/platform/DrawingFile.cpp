@@ -6,6 +6,7 @@
 #include "platform/RestrictedProcess.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 #include <QFile>
 #include <QFileInfo>
@@ -40,9 +41,11 @@ std::optional<QRectF> boundingBox(const QString &path)
     if (file.size() > 2 * part && file.seek(file.size() - part))
         text += '\n' + file.read(part);
     const QString words = QString::fromLatin1(text);
-    static const QString number = QStringLiteral("\\s+(-?[0-9.]+)");
+    // Not every maker leaves a blank behind the colon.
+    static const QString numbers =
+        QStringLiteral("\\s*(-?[0-9.]+)") + QStringLiteral("\\s+(-?[0-9.]+)").repeated(3);
     for (const QString &key : {QStringLiteral("%%HiResBoundingBox:"), QStringLiteral("%%BoundingBox:")}) {
-        const QRegularExpressionMatch match = QRegularExpression(key + number.repeated(4)).match(words);
+        const QRegularExpressionMatch match = QRegularExpression(key + numbers).match(words);
         const auto at = [&](int i) { return match.captured(i).toDouble(); };
         const QRectF box(at(1), at(2), at(3) - at(1), at(4) - at(2));
         if (match.hasMatch() && box.width() > 0 && box.height() > 0)
@@ -105,6 +108,34 @@ bool isPdf(const QString &path)
     return file.open(QIODevice::ReadOnly) && file.read(head).contains("%PDF-");
 }
 
+/// As the interpreter would turn it; nothing when it does not tell.
+std::optional<QSizeF> sizeOfFirstPage(const QString &path)
+{
+    RestrictedProcess process;
+    process.run(QStringLiteral("pdfinfo"), {QFileInfo(path).absoluteFilePath()});
+    const QString told = QString::fromLatin1(process.messages());
+    static const QRegularExpression size(QStringLiteral("Page size:\\s+([0-9.]+) x ([0-9.]+) pts"));
+    static const QRegularExpression quarterTurn(QStringLiteral("Page rot:\\s+(90|270)\\b"));
+    const QRegularExpressionMatch match = size.match(told);
+    const QSizeF page(match.captured(1).toDouble(), match.captured(2).toDouble());
+    if (page.isEmpty())
+        return std::nullopt;
+    return quarterTurn.match(told).hasMatch() ? page.transposed() : page;
+}
+
+/// Sides of whole pixels, which the page is stretched to by less than one: a last row that it covers in part
+/// shows as an edge.
+QStringList sizeOptions(const QString &path, double side)
+{
+    const auto pixels = [](double length) { return QString::number(std::max(1, qRound(length))); };
+    const std::optional<QSizeF> page = sizeOfFirstPage(path);
+    if (!page)
+        return {QStringLiteral("-scale-to"), pixels(side)};
+    const QSizeF size = *page * scaleToTouch(*page, {side, side});
+    return {QStringLiteral("-scale-to-x"), pixels(size.width()), QStringLiteral("-scale-to-y"),
+            pixels(size.height())};
+}
+
 } // namespace
 
 QImage rasterizePdf(const QString &path, const QSizeF &box, QString *reason)
@@ -113,13 +144,14 @@ QImage rasterizePdf(const QString &path, const QSizeF &box, QString *reason)
         return refused(reason, qtTrId("The file is not a PDF document."));
     RestrictedProcess process;
     const QString target = process.path(QStringLiteral("page"));
-    const auto pixels = [](double side) { return QString::number(int(side)); };
+    const QStringList options =
+        QStringList{QStringLiteral("-png"), QStringLiteral("-singlefile"), QStringLiteral("-cropbox"),
+                    QStringLiteral("-f"),   QStringLiteral("1"),           QStringLiteral("-l"),
+                    QStringLiteral("1")} +
+        sizeOptions(path, std::floor(std::min(box.width(), box.height())));
     return drawnBy(QStringLiteral("pdftocairo"),
-                   {QStringLiteral("-png"), QStringLiteral("-singlefile"), QStringLiteral("-cropbox"),
-                    QStringLiteral("-f"), QStringLiteral("1"), QStringLiteral("-l"), QStringLiteral("1"),
-                    QStringLiteral("-scale-to"), pixels(std::min(box.width(), box.height())),
-                    QFileInfo(path).absoluteFilePath(), target},
-                   process, target + QStringLiteral(".png"), box, reason);
+                   options + QStringList{QFileInfo(path).absoluteFilePath(), target}, process,
+                   target + QStringLiteral(".png"), box, reason);
 }
 
 QImage rasterizeEps(const QString &path, const QSizeF &box, QString *reason)

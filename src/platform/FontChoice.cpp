@@ -2,6 +2,7 @@
 
 #include <array>
 #include <QFontDatabase>
+#include <QRawFont>
 #include <QSet>
 
 namespace platform {
@@ -28,6 +29,8 @@ constexpr std::array<Replacement, 13> replacements = {{{u"Helvetica", u"Liberati
                                                        {u"Times New Roman", u"Liberation Serif"},
                                                        {u"Courier", u"Liberation Mono"},
                                                        {u"Courier New", u"Liberation Mono"}}};
+
+const QString emojiFamily = QStringLiteral("Noto Color Emoji");
 
 const QSet<QString> &installedFamilies()
 {
@@ -86,7 +89,7 @@ QFont fontFor(const FontDescription &description)
     const QString family = resolvedFamily(description.family);
     QFont font;
     // Behind the wanted family stand one of wide coverage and one of colour emoji; the system knows the rest.
-    font.setFamilies({family, QStringLiteral("Noto Sans"), QStringLiteral("Noto Color Emoji")});
+    font.setFamilies({family, QStringLiteral("Noto Sans"), emojiFamily});
     font.setPixelSize(std::max(1, qRound(description.size)));
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setWeight(weightOf(description.style));
@@ -94,6 +97,25 @@ QFont fontFor(const FontDescription &description)
     if (!description.style.isEmpty() && QFontDatabase::styles(family).contains(description.style))
         font.setStyleName(description.style);
     return font;
+}
+
+bool hasAnyFont()
+{
+    // The names that stand for any font are listed all the same; a stand-in for one has no tables.
+    return !QRawFont::fromFont(fontFor({})).fontTable("head").isEmpty();
+}
+
+QFont inEmojiFont(QFont font)
+{
+    QStringList families = font.families();
+    families.prepend(emojiFamily);
+    font.setFamilies(families);
+    return font;
+}
+
+bool hasEmojiFont()
+{
+    return installedFamilies().contains(emojiFamily);
 }
 
 bool isFontFamilyAvailable(const QString &family)

@@ -11,6 +11,12 @@ namespace platform {
 /// object.
 QFont fontFor(const FontDescription &description);
 
+/// Whether there is any font at all. Where there is none, boxes stand for all letters.
+bool hasAnyFont();
+/// The font of colour emoji, and whether it is there.
+QFont inEmojiFont(QFont font);
+bool hasEmojiFont();
+
 /// Whether a family is installed, or has a replacement of the same metrics that is.
 bool isFontFamilyAvailable(const QString &family);
 

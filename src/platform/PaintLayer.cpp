@@ -147,15 +147,19 @@ std::vector<QPoint> PaintLayer::tilePlaces(const QRectF &tile, const QRect &boun
     const QRect canvas(QPoint(0, 0), m_canvas);
     const QRectF reach = back.mapRect(
         QRectF(canvas.adjusted(-bounds.width(), -bounds.height(), bounds.width(), bounds.height())));
-    const QPointF origin = m_state.transform.map(tile.topLeft());
+    // An unturned tile stands on a whole pixel already, and where a copy of it stands is rounded from its own
+    // place: the rounding of both would add up.
+    const QPointF corner = m_state.transform.map(tile.topLeft());
+    const bool isTurned = m_state.transform.type() > QTransform::TxTranslate;
+    const QPointF origin = isTurned ? corner : QPointF(corner.toPoint());
     const int left = int(std::floor((reach.left() - tile.left()) / tile.width()));
     const int right = int(std::ceil((reach.right() - tile.left()) / tile.width()));
     const int top = int(std::floor((reach.top() - tile.top()) / tile.height()));
     const int bottom = int(std::ceil((reach.bottom() - tile.top()) / tile.height()));
     for (int row = top; row <= bottom; ++row) {
         for (int column = left; column <= right; ++column) {
-            const QPointF corner = tile.topLeft() + QPointF(column * tile.width(), row * tile.height());
-            const QPoint place = (m_state.transform.map(corner) - origin).toPoint();
+            const QPointF next = tile.topLeft() + QPointF(column * tile.width(), row * tile.height());
+            const QPoint place = (m_state.transform.map(next) - origin).toPoint();
             if (bounds.translated(place).intersects(canvas))
                 places.push_back(place);
         }

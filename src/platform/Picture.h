@@ -21,6 +21,8 @@ public:
     explicit Picture(const QImage &image) : m_image(image) {}
     explicit Picture(std::unique_ptr<Drawing> drawing) : m_drawing(std::move(drawing)) {}
 
+    /// Made of shapes, against made of pixels. PostScript counts as pixels, being drawn only once.
+    bool isDrawing() const { return bool(m_drawing); }
     /// The natural size in points.
     QSizeF size() const { return m_drawing ? m_drawing->size() : QSizeF(m_image.size()); }
     /// The picture at a size in pixels, each axis stretched on its own; premultiplied. Null when it is empty

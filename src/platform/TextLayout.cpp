@@ -1,13 +1,12 @@
 #include "platform/TextLayout.h"
 
+#include "platform/EmojiSequences.h"
 #include "platform/FontChoice.h"
+#include "platform/GlyphCollector.h"
 
 #include <algorithm>
 #include <cmath>
 #include <QFontMetricsF>
-#include <QHash>
-#include <QPainterPath>
-#include <QRawFont>
 #include <QRegularExpression>
 #include <QTextLayout>
 
@@ -50,104 +49,95 @@ QTextOption lineOption()
     return option;
 }
 
-/// Fonts of ready-made colour pictures have no outlines to scale or to trace. Asking one copies its pictures,
-/// ten megabytes of them, so it is asked once.
-bool hasColorPictures(const QRawFont &font)
-{
-    thread_local QHash<QString, bool> known;
-    const QString name = font.familyName() + u'-' + font.styleName();
-    const auto answer = known.constFind(name);
-    if (answer != known.constEnd())
-        return *answer;
-    return *known.insert(name, !font.fontTable("CBDT").isEmpty() || !font.fontTable("sbix").isEmpty());
-}
-
-/// The outlines of a run, each glyph by itself or all in one. One outline costs more the longer it is, but
+/// The outlines of a piece, each glyph by itself or all in one. One outline costs more the longer it is, but
 /// where glyphs overlap only it keeps a colour that shows through from showing double.
-std::vector<QPainterPath> outlinesOf(const QGlyphRun &glyphs, bool inOne)
+std::vector<QPainterPath> outlinesOf(const GlyphPiece &piece, bool inOne)
 {
-    const QList<quint32> indexes = glyphs.glyphIndexes();
-    const QList<QPointF> positions = glyphs.positions();
     std::vector<QPainterPath> outlines(inOne ? 1 : 0);
-    for (qsizetype i = 0; i < indexes.size(); ++i) {
-        const QPainterPath glyph = glyphs.rawFont().pathForGlyph(indexes[i]).translated(positions[i]);
+    for (const GlyphOutline &glyph : piece.outlines) {
+        const QPainterPath path = glyph.path.translated(glyph.position);
         if (inOne)
-            outlines.front().addPath(glyph);
+            outlines.front().addPath(path);
         else
-            outlines.push_back(glyph);
+            outlines.push_back(path);
         outlines.back().setFillRule(Qt::WindingFill);
     }
     return outlines;
 }
 
-/// Draws pictures of glyphs at the size that the painter's scale asks for, from the font's own pictures.
-void drawPictures(QPainter &painter, const QGlyphRun &glyphs, QPointF origin)
+/// In the units of the font size.
+double penWidth(const TextAttributes &look)
 {
-    const QTransform transform = painter.worldTransform();
-    const double scale = std::sqrt(std::fabs(transform.determinant()));
-    QRawFont font = glyphs.rawFont();
-    font.setPixelSize(font.pixelSize() * scale);
-    QList<QPointF> positions = glyphs.positions();
-    for (QPointF &position : positions)
-        position = transform.map(position + origin);
-    QGlyphRun scaled = glyphs;
-    scaled.setRawFont(font);
-    scaled.setPositions(positions);
-    painter.save();
-    painter.resetTransform();
-    painter.drawGlyphRun(QPointF(0, 0), scaled);
-    painter.restore();
+    return std::fabs(look.strokeWidth.value_or(0)) / 100 * fontOf(look).size;
 }
 
-/// The shape of such pictures in one colour: what an outline or a glow can be made of.
-void drawSilhouettes(QPainter &painter, const QGlyphRun &glyphs, QPointF origin, const QColor &color)
-{
-    const QSize size(painter.device()->width(), painter.device()->height());
-    QImage shape(size, QImage::Format_ARGB32_Premultiplied);
-    shape.fill(Qt::transparent);
-    QPainter inside(&shape);
-    inside.setWorldTransform(painter.worldTransform());
-    drawPictures(inside, glyphs, origin);
-    inside.resetTransform();
-    inside.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    inside.fillRect(QRect(QPoint(0, 0), size), color);
-    inside.end();
-    painter.save();
-    painter.resetTransform();
-    painter.drawImage(0, 0, shape);
-    painter.restore();
-}
-
-void drawPlainGlyphs(QPainter &painter, const QGlyphRun &glyphs, const TextAttributes &look)
+void drawOutlines(QPainter &painter, const GlyphPiece &piece, const TextAttributes &look)
 {
     const QColor fill = look.foregroundColor.value_or(Color::black()).toQColor();
     const double width = look.strokeWidth.value_or(0);
     const QColor stroke = look.strokeColor ? look.strokeColor->toQColor() : fill;
-    const QPen pen(stroke, std::fabs(width) / 100 * fontOf(look).size, Qt::SolidLine, Qt::FlatCap,
-                   Qt::RoundJoin);
+    const QPen pen(stroke, penWidth(look), Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
     const bool isOpaque = fill.alpha() == 255 && stroke.alpha() == 255;
-    for (const QPainterPath &path : outlinesOf(glyphs, !isOpaque)) {
+    painter.save();
+    painter.translate(piece.origin);
+    for (const QPainterPath &path : outlinesOf(piece, !isOpaque)) {
         // A positive width is an outline without a filling, a negative one an outline around it.
         if (width <= 0)
             painter.fillPath(path, fill);
         if (width != 0)
             painter.strokePath(path, pen);
     }
+    painter.restore();
 }
 
-void drawGlyphs(QPainter &painter, const QGlyphRun &glyphs, QPointF origin, const TextAttributes &look)
+void drawPictures(QPainter &painter, const GlyphPiece &piece, const TextAttributes &look)
 {
-    if (!hasColorPictures(glyphs.rawFont())) {
-        painter.save();
-        painter.translate(origin);
-        drawPlainGlyphs(painter, glyphs, look);
-        painter.restore();
-    } else if (look.strokeWidth.value_or(0) > 0) {
-        const Color fill = look.foregroundColor.value_or(Color::black());
-        drawSilhouettes(painter, glyphs, origin, look.strokeColor.value_or(fill).toQColor());
-    } else {
-        drawPictures(painter, glyphs, origin);
+    const double width = look.strokeWidth.value_or(0);
+    const Color fill = look.foregroundColor.value_or(Color::black());
+    if (width != 0)
+        drawColorSilhouettes(painter, piece.pictures, piece.origin,
+                             look.strokeColor.value_or(fill).toQColor(), penWidth(look) / 2);
+    if (width <= 0)
+        drawColorGlyphs(painter, piece.pictures, piece.origin);
+}
+
+/// The toolkit takes a keycap apart. In the line its place is held by an emoji of one character, the rest of
+/// it being selectors that nothing is seen of.
+QString withoutKeycaps(QString words, const std::vector<EmojiSequence> &emoji)
+{
+    for (const EmojiSequence &sequence : emoji) {
+        if (!sequence.isKeycap || !hasEmojiFont())
+            continue;
+        words[sequence.from] = QChar(0x2B1C);
+        for (qsizetype i = 1; i < sequence.length; ++i)
+            words[sequence.from + i] = QChar(0xFE0F);
     }
+    return words;
+}
+
+QTextLayout::FormatRange formatRange(qsizetype from, qsizetype to, const QFont &font)
+{
+    QTextCharFormat format;
+    format.setFont(font);
+    return {int(from), int(to - from), format};
+}
+
+/// The fonts of a part of a line. A font of letters that has some characters of an emoji would take it apart.
+void addFormats(QList<QTextLayout::FormatRange> &formats, qsizetype from, qsizetype to, const QFont &font,
+                const std::vector<EmojiSequence> &emoji)
+{
+    for (const EmojiSequence &sequence : emoji) {
+        const qsizetype begin = std::clamp(sequence.from, from, to);
+        const qsizetype end = std::clamp(sequence.from + sequence.length, from, to);
+        if (begin == end || !hasEmojiFont())
+            continue;
+        if (from < begin)
+            formats.append(formatRange(from, begin, font));
+        formats.append(formatRange(begin, end, inEmojiFont(font)));
+        from = end;
+    }
+    if (from < to)
+        formats.append(formatRange(from, to, font));
 }
 
 double shareOfAlignment(TextAlignment alignment)
@@ -169,6 +159,8 @@ struct TextLayout::Paragraph {
     qsizetype start = 0;
     qsizetype length = 0;
     double top = 0;
+    QString words;
+    std::vector<EmojiSequence> emoji;
     std::unique_ptr<QTextLayout> layout;
     QTextLine line;
 };
@@ -195,20 +187,18 @@ TextLayout::TextLayout(const AttributedString &text) : m_text(text)
 
 void TextLayout::layOut(Paragraph &paragraph)
 {
-    const QString words = m_text.string().mid(paragraph.start, paragraph.length);
+    const QString &words = paragraph.words = m_text.string().mid(paragraph.start, paragraph.length);
+    paragraph.emoji = emojiSequencesIn(words);
     // An empty line is as high as its line feed, or as the character before it.
     const qsizetype styled = std::min(paragraph.start, std::max<qsizetype>(0, m_text.length() - 1));
-    paragraph.layout = std::make_unique<QTextLayout>(words, fontFor(fontOf(m_text.attributesAt(styled))));
+    paragraph.layout = std::make_unique<QTextLayout>(withoutKeycaps(words, paragraph.emoji),
+                                                     fontFor(fontOf(m_text.attributesAt(styled))));
     QList<QTextLayout::FormatRange> formats;
     qsizetype position = -paragraph.start;
     for (const AttributedString::Run &run : m_text.runs()) {
         const qsizetype from = std::clamp<qsizetype>(position, 0, words.size());
         const qsizetype to = std::clamp<qsizetype>(position + run.length, 0, words.size());
-        if (from < to) {
-            QTextCharFormat format;
-            format.setFont(fontFor(fontOf(run.attributes)));
-            formats.append({int(from), int(to - from), format});
-        }
+        addFormats(formats, from, to, fontFor(fontOf(run.attributes)), paragraph.emoji);
         position += run.length;
     }
     paragraph.layout->setFormats(formats);
@@ -227,19 +217,24 @@ void TextLayout::place(const Paragraph &paragraph, double width)
         sideMargin + (width - paragraph.line.naturalTextWidth()) * shareOfAlignment(alignment);
     qsizetype position = -paragraph.start;
     const std::vector<AttributedString::Run> &runs = m_text.runs();
+    GlyphCollector collector(*paragraph.layout, paragraph.words, paragraph.emoji);
     for (size_t run = 0; run < runs.size(); ++run) {
         const qsizetype from = std::clamp<qsizetype>(position, 0, paragraph.length);
         const qsizetype to = std::clamp<qsizetype>(position + runs[run].length, 0, paragraph.length);
+        for (GlyphPiece &piece : collector.pieces(from, to, fontOf(runs[run].attributes).size)) {
+            piece.origin = QPointF(left, paragraph.top);
+            piece.run = run;
+            m_glyphs.push_back(std::move(piece));
+        }
         if (from < to)
-            collect(paragraph, from, to, run, QPointF(left, paragraph.top));
+            collectLines(paragraph, from, to, run, QPointF(left, paragraph.top));
         position += runs[run].length;
     }
 }
 
-void TextLayout::collect(const Paragraph &paragraph, qsizetype from, qsizetype to, size_t run, QPointF origin)
+void TextLayout::collectLines(const Paragraph &paragraph, qsizetype from, qsizetype to, size_t run,
+                              QPointF origin)
 {
-    for (const QGlyphRun &glyphs : paragraph.layout->glyphRuns(int(from), int(to - from)))
-        m_glyphs.push_back({glyphs, origin, run});
     const TextAttributes &attributes = m_text.runs()[run].attributes;
     const bool underlined = attributes.underlineStyle.value_or(0) != 0;
     const bool struck = attributes.strikethroughStyle.value_or(0) != 0;
@@ -272,8 +267,10 @@ void TextLayout::draw(QPainter &painter, const TextAttributes &over) const
         const Color text = look.foregroundColor.value_or(Color::black());
         painter.fillRect(line.underline, look.underlineColor.value_or(text).toQColor());
     }
-    for (const GlyphPiece &piece : m_glyphs)
-        drawGlyphs(painter, piece.glyphs, piece.origin, looks[piece.run]);
+    for (const GlyphPiece &piece : m_glyphs) {
+        drawOutlines(painter, piece, looks[piece.run]);
+        drawPictures(painter, piece, looks[piece.run]);
+    }
     for (const LinePiece &line : m_lines) {
         const TextAttributes &look = looks[line.run];
         const Color text = look.foregroundColor.value_or(Color::black());

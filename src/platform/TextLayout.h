@@ -1,9 +1,9 @@
 #pragma once
 
 #include "platform/AttributedString.h"
+#include "platform/GlyphPiece.h"
 
 #include <memory>
-#include <QGlyphRun>
 #include <QPainter>
 #include <QRectF>
 #include <QSizeF>
@@ -15,7 +15,8 @@ namespace platform {
 /// font sizes' units, y downward. Characters that a font lacks come from fonts that have them, scripts are
 /// shaped and ordered as their languages want it, and lines stand aligned within the longest.
 ///
-/// Needs an application object for its fonts. One object serves one thread at a time.
+/// Needs an application object for its fonts. A layout that is made holds outlines and pictures alone: fonts
+/// belong to the thread that asked for them and go with it, a layout may be drawn on any.
 class TextLayout {
 public:
     explicit TextLayout(const AttributedString &text);
@@ -33,11 +34,6 @@ public:
     static constexpr double sideMargin = 5;
 
 private:
-    struct GlyphPiece {
-        QGlyphRun glyphs;
-        QPointF origin;
-        size_t run = 0;
-    };
     struct LinePiece {
         QRectF underline;
         QRectF strikethrough;
@@ -47,7 +43,7 @@ private:
 
     void layOut(Paragraph &paragraph);
     void place(const Paragraph &paragraph, double width);
-    void collect(const Paragraph &paragraph, qsizetype from, qsizetype to, size_t run, QPointF origin);
+    void collectLines(const Paragraph &paragraph, qsizetype from, qsizetype to, size_t run, QPointF origin);
 
     AttributedString m_text;
     QSizeF m_size;

@@ -1,12 +1,12 @@
 #include "profiles/TSProfileApplier.h"
 
 #include "overlays/TSGroup.h"
-#include "overlays/TSImage.h"
 #include "overlays/TSOverlayClasses.h"
 #include "overlays/TSText.h"
 #include "platform/KeyedArchive.h"
 #include "platform/UserDefaults.h"
 #include "profiles/TSProfileLibrary.h"
+#include "profiles/TSProfileStickers.h"
 #include "profiles/TSVersionInfo.h"
 #include "session/TSDataManager.h"
 #include "session/TSDefaults.h"
@@ -37,23 +37,6 @@ Overlays readOverlays(const QString &package)
     const auto manager =
         root->toDictionary().value(QStringLiteral("overlayManager")).toObject<TSOverlayManager>();
     return manager ? manager->overlays() : Overlays();
-}
-
-/// A package brings its pictures along, wherever it lies and whatever it is called by now; the name in the
-/// archive, which tells where it once lay, serves when it does not.
-void findStickers(const Overlays &overlays, const QString &package)
-{
-    for (const auto &overlay : overlays) {
-        if (const auto *group = dynamic_cast<const TSGroup *>(overlay.get()))
-            findStickers(group->overlaysOfGroup(), package);
-        auto *image = dynamic_cast<TSImage *>(overlay.get());
-        if (!image || !image->isFromFinder())
-            continue;
-        const QString own =
-            TSProfileLibrary::stickerFolder(package) + u'/' + QFileInfo(image->imageName()).fileName();
-        if (QFileInfo(own).isFile())
-            image->setImagePath(own);
-    }
 }
 
 void place(TSOverlay &overlay)
@@ -111,7 +94,7 @@ bool TSProfileApplier::performProfile(const QString &package)
     if (m_delegate)
         m_delegate->clearSelection();
     const Overlays loaded = readOverlays(package);
-    findStickers(loaded, package);
+    m_missing = TSProfileStickers::find(loaded, package);
     const bool hadOverlays = manager->overlayCount() > 0;
     for (auto overlay = loaded.rbegin(); overlay != loaded.rend(); ++overlay) {
         place(**overlay);

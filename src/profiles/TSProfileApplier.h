@@ -2,6 +2,8 @@
 
 #include "overlays/TSOverlayManager.h"
 
+#include <QStringList>
+
 /// Whoever a profile is applied for: it is asked once, and told what happens to what it shows.
 class TSProfileApplierDelegate {
 public:
@@ -32,9 +34,12 @@ public:
     bool applyProfile(const QString &package);
     /// Adds the marks of a package on top of those there are. Answers whether any could be read.
     bool performProfile(const QString &package);
+    /// The names of the pictures that the last package should have and that could not be found.
+    const QStringList &missingPictures() const { return m_missing; }
 
 private:
     void tellUse(const QString &package);
 
     TSProfileApplierDelegate *m_delegate;
+    QStringList m_missing;
 };

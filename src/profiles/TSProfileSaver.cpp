@@ -1,7 +1,6 @@
 #include "profiles/TSProfileSaver.h"
 
 #include "export/TSOutputComposer.h"
-#include "overlays/TSImage.h"
 #include "overlays/TSOverlaySynchronisation.h"
 #include "platform/AtomicFile.h"
 #include "platform/Folders.h"
@@ -9,6 +8,7 @@
 #include "platform/LazyImage.h"
 #include "platform/PaintLayer.h"
 #include "profiles/TSProfileLibrary.h"
+#include "profiles/TSProfileStickers.h"
 #include "profiles/TSVersionInfo.h"
 #include "session/TSCacheManager.h"
 #include "session/TSNotificationCenter.h"
@@ -58,7 +58,7 @@ TSProfileSaver::TSProfileSaver(const QString &name)
 {
 }
 
-QString TSProfileSaver::saveProfile(const QString &name)
+QString TSProfileSaver::saveProfile(const QString &name, QStringList *missing)
 {
     const QString problem = TSProfileLibrary::problemWithName(name);
     if (!problem.isEmpty())
@@ -76,6 +76,8 @@ QString TSProfileSaver::saveProfile(const QString &name)
         saver.forgetStickers();
     else
         saver.adoptStickers();
+    if (missing)
+        *missing = saver.m_missing;
     Q_EMIT TSNotificationCenter::defaultCenter()->TSUpdateProfile();
     return failure;
 }
@@ -116,26 +118,24 @@ QString TSProfileSaver::saveProfileImageToPath(const QString &folder) const
     return platform::writeFileAtomically(QStringLiteral("%1/%2.jpg").arg(folder, m_name), bytes);
 }
 
-/// Only the top level is visited: members of groups keep what they are named by.
 QString TSProfileSaver::saveFinderStickerTOPath(const QString &folder)
 {
     QDir().mkdir(TSProfileLibrary::stickerFolder(folder));
     int count = 0;
-    for (const auto &image : TSOverlayManager::overlayManager()->images()) {
+    const auto overlays = TSOverlayManager::overlayManager()->overlays();
+    for (const auto &image : TSProfileStickers::picturesAmong(overlays)) {
         if (!image->isFromFinder())
             continue;
         m_formerNames.emplace_back(image, image->imageName());
-        // Pictures are stored as TIFF under this name. Readers go by the content, and packages have been
-        // written so from the first.
-        const QString file = QStringLiteral("/Stickers_%1.png").arg(count++);
+        const QString file = TSProfileStickers::fileOfNumber(count++);
         const auto picture = TSCacheManager::cacheManager()->imageWithPath(image->imagePath());
         image->setImageName(TSProfileLibrary::stickerFolder(m_package) + file);
-        if (!picture)
+        if (!picture) {
+            m_missing.append(QFileInfo(image->imagePath()).fileName());
             continue;
-        const QImage pixels = picture->imageOfSize(picture->size().toSize());
+        }
         const QString failure =
-            platform::writeFileAtomically(TSProfileLibrary::stickerFolder(folder) + file,
-                                          platform::LazyImage::fromImage(pixels).encodeTiff());
+            TSProfileStickers::store(*image, *picture, TSProfileLibrary::stickerFolder(folder) + file);
         if (!failure.isEmpty())
             return failure;
     }
@@ -165,8 +165,9 @@ void TSProfileSaver::forgetStickers()
 void TSProfileSaver::adoptStickers() const
 {
     for (const auto &[image, name] : m_formerNames) {
+        const QString shown = TSProfileStickers::shown(image->imageName());
         if (image->imagePath().startsWith(m_package + u'/'))
-            image->setImagePath(image->imageName());
-        TSCacheManager::cacheManager()->removeCacheWithPath(image->imageName());
+            image->setImagePath(shown);
+        TSCacheManager::cacheManager()->removeCacheWithPath(shown);
     }
 }

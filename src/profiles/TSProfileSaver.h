@@ -10,7 +10,8 @@ class TSProfileSaver {
 public:
     /// Answers an empty text when the profile was saved, else a sentence for the user. A package of that name
     /// is replaced, and only once the new one is whole.
-    static QString saveProfile(const QString &name);
+    /// `missing` is told the names of the pictures that could not be read, and which the package lacks.
+    static QString saveProfile(const QString &name, QStringList *missing = nullptr);
 
 private:
     explicit TSProfileSaver(const QString &name);
@@ -26,4 +27,5 @@ private:
     /// Where the package will lie, which is what overlays remember while it is written elsewhere.
     QString m_package;
     std::vector<std::pair<std::shared_ptr<TSImage>, QString>> m_formerNames;
+    QStringList m_missing;
 };

@@ -5,11 +5,11 @@
 #include "profiles/TSProfileLibrary.h"
 #include "profiles/TSProfileSaver.h"
 #include "session/TSLastFolder.h"
+#include "shell/TSSaveProfileWindowController.h"
 
 #include <memory>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QInputDialog>
 
 void TSLayoutController::openProfileAction()
 {
@@ -20,20 +20,30 @@ void TSLayoutController::openProfileAction()
         return;
     // Beside the one that was taken are the others.
     TSRememberFolder(TSFolderUse::Layouts, QFileInfo(package).absolutePath());
-    if (TSProfileLibrary::find(package).isEmpty() || !TSProfileApplier(this).applyProfile(package))
+    TSProfileApplier applier(this);
+    if (TSProfileLibrary::find(package).isEmpty() || !applier.applyProfile(package))
         tell(qtTrId("NoLayout"));
+    else
+        tellMissing(applier.missingPictures());
 }
 
 void TSLayoutController::openSaveProfile()
 {
-    bool isAccepted = false;
-    const QString name = QInputDialog::getText(&m_window, qtTrId("SaveLayoutTitle"), qtTrId("SaveLayoutName"),
-                                               QLineEdit::Normal, {}, &isAccepted);
-    if (!isAccepted)
+    TSSaveProfileWindowController sheet(&m_window);
+    if (sheet.exec() != QDialog::Accepted)
         return;
-    const QString failure = TSProfileSaver::saveProfile(name.trimmed());
+    QStringList missing;
+    const QString failure = TSProfileSaver::saveProfile(sheet.name(), &missing);
     if (!failure.isEmpty())
         tell(failure);
+    else
+        tellMissing(missing);
+}
+
+void TSLayoutController::tellMissing(const QStringList &pictures)
+{
+    if (!pictures.isEmpty())
+        tell(qtTrId("LayoutLacksPictures").arg(pictures.join(QStringLiteral(", "))));
 }
 
 void TSLayoutController::tell(const QString &message)

@@ -22,6 +22,7 @@ Q_SIGNALS:
 
 private:
     void tell(const QString &message);
+    void tellMissing(const QStringList &pictures);
     Answer askToCoverWatermarks() override;
     void clearSelection() override;
     void profileWasApplied() override;

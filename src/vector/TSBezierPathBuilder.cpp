@@ -64,8 +64,11 @@ QPainterPath TSBezierPathBuilder::bezierPathFromCommandList(const QStringList &c
     m_path.setFillRule(Qt::WindingFill);
     m_hasBegun = false;
     m_takesShortPieces = takesShortPieces;
+    m_hasSteps = m_hasLength = false;
+    m_dots.clear();
     for (const QString &command : commands)
         addCommand(command);
+    endPart();
     return m_path;
 }
 
@@ -76,6 +79,7 @@ void TSBezierPathBuilder::addCommand(const QString &command)
     case u'M': {
         const QPointF target = point(piece);
         if (isComplete(piece) && isFinite(target)) {
+            endPart();
             m_path.moveTo(target);
             m_hasBegun = true;
         }
@@ -106,8 +110,7 @@ void TSBezierPathBuilder::addCommand(const QString &command)
         addQuadratic(piece);
         break;
     case u'Z':
-        if (m_hasBegun)
-            m_path.closeSubpath();
+        closePart();
         break;
     default:
         break;
@@ -134,15 +137,42 @@ double TSBezierPathBuilder::number(Piece &piece) const
 /// A line or a curve without a point to begin at has no place on the platform, and none here.
 void TSBezierPathBuilder::addLine(const Piece &piece, const QPointF &end)
 {
-    if (isComplete(piece) && m_hasBegun && isFinite(end))
-        m_path.lineTo(end);
+    if (!isComplete(piece) || !m_hasBegun || !isFinite(end))
+        return;
+    noteStep(end != m_path.currentPosition());
+    m_path.lineTo(end);
 }
 
 void TSBezierPathBuilder::addCurve(const Piece &piece, const QPointF &c1, const QPointF &c2,
                                    const QPointF &end)
 {
-    if (isComplete(piece) && m_hasBegun && isFinite(c1) && isFinite(c2) && isFinite(end))
-        m_path.cubicTo(c1, c2, end);
+    if (!isComplete(piece) || !m_hasBegun || !isFinite(c1) || !isFinite(c2) || !isFinite(end))
+        return;
+    const QPointF from = m_path.currentPosition();
+    noteStep(c1 != from || c2 != from || end != from);
+    m_path.cubicTo(c1, c2, end);
+}
+
+void TSBezierPathBuilder::closePart()
+{
+    if (!m_hasBegun)
+        return;
+    noteStep(false);
+    endPart();
+    m_path.closeSubpath();
+}
+
+void TSBezierPathBuilder::noteStep(bool hasLength)
+{
+    m_hasSteps = true;
+    m_hasLength = m_hasLength || hasLength;
+}
+
+void TSBezierPathBuilder::endPart()
+{
+    if (m_hasSteps && !m_hasLength)
+        m_dots.push_back(m_path.currentPosition());
+    m_hasSteps = m_hasLength = false;
 }
 
 void TSBezierPathBuilder::addCubic(Piece &piece)

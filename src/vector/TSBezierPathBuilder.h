@@ -4,6 +4,7 @@
 
 #include <QPainterPath>
 #include <QStringList>
+#include <vector>
 
 /// Builds outlines from path data and lists of points. It reads one set of arguments for each command, knows
 /// no arcs, and draws quadratic curves with both control points on one; documents made for it are drawn to
@@ -17,6 +18,9 @@ public:
     /// A piece that ends before its numbers do is left out of path data; in a list of points it counts as (0,
     /// 0).
     QPainterPath bezierPathFromCommandList(const QStringList &commands, bool takesShortPieces);
+    /// The points of the last path at which a part of it begins and ends, and which it does not hold: nothing
+    /// is filled there, but a pen may have caps.
+    const std::vector<QPointF> &dots() const { return m_dots; }
 
 private:
     struct Piece {
@@ -31,12 +35,19 @@ private:
     bool isComplete(const Piece &piece) const { return !piece.hasEnded || m_takesShortPieces; }
     void addLine(const Piece &piece, const QPointF &end);
     void addCurve(const Piece &piece, const QPointF &c1, const QPointF &c2, const QPointF &end);
+    void noteStep(bool hasLength);
+    void closePart();
+    void endPart();
     void addCubic(Piece &piece);
     void addSmoothCubic(Piece &piece);
     void addQuadratic(Piece &piece);
 
     QPainterPath m_path;
     QPointF m_previousControlPoint;
+    std::vector<QPointF> m_dots;
     bool m_hasBegun = false;
+    /// Of the part of the path that is being drawn.
+    bool m_hasSteps = false;
+    bool m_hasLength = false;
     bool m_takesShortPieces = false;
 };

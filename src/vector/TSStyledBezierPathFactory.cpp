@@ -33,6 +33,9 @@ std::optional<platform::Color> parseStyleColor(const QString &style)
     return color;
 }
 
+/// The shortest line that is stroked, in widths of it.
+constexpr double dotLength = 1.0 / 16384;
+
 QPen strokeFor(const TSSVGAttributes &attributes)
 {
     const double width = attributes.strokeWeightForKey(QStringLiteral("stroke-width"));
@@ -50,8 +53,22 @@ QPen strokeFor(const TSSVGAttributes &attributes)
     for (size_t round = 0; round < (dashes.size() % 2 == 0 ? 1u : 2u); ++round)
         for (const double dash : dashes)
             pattern.append(dash / width);
+    // A dash without a length is its two caps, which the pen forgets.
+    for (qsizetype i = 0; i < pattern.size() && pen.capStyle() != Qt::FlatCap; i += 2)
+        pattern[i] = std::max(pattern[i], dotLength);
     pen.setDashPattern(pattern);
     return pen;
+}
+
+/// A line that ends where it begins is its two caps too.
+void addDots(QPainterPath &path, const std::vector<QPointF> &dots, const QPen &pen)
+{
+    if (pen.capStyle() == Qt::FlatCap)
+        return;
+    for (const QPointF &dot : dots) {
+        path.moveTo(dot);
+        path.lineTo(dot + QPointF(dotLength * pen.widthF(), 0));
+    }
 }
 
 } // namespace
@@ -72,6 +89,7 @@ std::optional<QPainterPath> TSStyledBezierPathFactory::outline(const QString &na
 {
     const auto at = [&](QStringView key) { return attributes.floatForKey(key.toString()); };
     QPainterPath path;
+    m_dots.clear();
     if (name == u"circle")
         return ovalPath(at(u"cx"), at(u"cy"), at(u"r"), at(u"r"));
     if (name == u"ellipse")
@@ -83,18 +101,23 @@ std::optional<QPainterPath> TSStyledBezierPathFactory::outline(const QString &na
     if (name == u"line") {
         path.moveTo(at(u"x1"), at(u"y1"));
         path.lineTo(at(u"x2"), at(u"y2"));
+        if (path.elementCount() == 1)
+            m_dots.push_back(path.currentPosition());
         return path;
     }
     if (name == u"path") {
         const QString data = attributes.textForKey(QStringLiteral("d"));
-        return m_builder.bezierPathFromCommandList(TSBezierPathBuilder::commandListForCommandString(data),
+        path = m_builder.bezierPathFromCommandList(TSBezierPathBuilder::commandListForCommandString(data),
                                                    false);
+        m_dots = m_builder.dots();
+        return path;
     }
     if (name != u"polyline" && name != u"polygon")
         return std::nullopt;
     const QString points = attributes.textForKey(QStringLiteral("points"));
     path =
         m_builder.bezierPathFromCommandList(TSBezierPathBuilder::commandListForPolylineString(points), true);
+    m_dots = m_builder.dots();
     if (name == u"polygon")
         path.closeSubpath();
     return path;
@@ -106,6 +129,7 @@ TSStyledBezierPathFactory::createStyledPath(const QPainterPath &path, const TSSV
     auto styled = std::make_shared<TSStyledBezierPath>();
     styled->path = path;
     styled->stroke = strokeFor(attributes);
+    addDots(styled->path, m_dots, styled->stroke);
     styled->opacity = opacity(attributes);
     styled->fillColor = attributes.fillColorForKey(QStringLiteral("fill"));
     styled->strokeColor = attributes.strokeColorForKey(QStringLiteral("stroke"));

@@ -33,4 +33,6 @@ private:
     QHash<QString, std::shared_ptr<TSSVGGradient>> m_gradientsByName;
     std::optional<double> m_groupOpacityValue;
     TSBezierPathBuilder m_builder;
+    /// Of the element at hand: where a line begins and ends in one point.
+    std::vector<QPointF> m_dots;
 };

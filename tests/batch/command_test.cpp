@@ -330,3 +330,15 @@ TEST_F(CommandTest, APhotoThatAProfileCannotBeLaidOutOnIsNamed)
     EXPECT_EQ(run({"--text", "a", "--save-profile", "Mine"}, {"gone.jpg"}), TSBatchStatus::SomeNotWritten);
     EXPECT_TRUE(errors.contains("gone.jpg: There is no such file.")) << errors.constData();
 }
+
+/// The program starts anew for this one, where no font can be found from its first moment.
+TEST(CommandDeathTest, TextsWithoutAnyFontAreRefused)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const Session session;
+    const QString photo = session.writePng("photo.png", plainImage({60, 40}));
+    qputenv("FONTCONFIG_FILE", QFile::encodeName(session.write("fonts.conf", "<fontconfig></fontconfig>")));
+    EXPECT_EXIT(std::exit(TSBatchCommand::run({"--text", "abc", "--output", session.folder.path(), photo})),
+                testing::ExitedWithCode(TSBatchStatus::WrongUsage), "no font is installed");
+    qunsetenv("FONTCONFIG_FILE");
+}

@@ -113,16 +113,19 @@ TEST_F(TokenTest, ArchivesKeepEveryClassAndName)
     }
 }
 
-TEST_F(TokenTest, DecodedDatesForgetTheirVariant)
+TEST_F(TokenTest, ArchivesKeepTheVariantOfADate)
 {
     auto token = TSDateShootingToken::createDateShootingToken();
-    token->editCellAction(2);
-    const auto copy = std::dynamic_pointer_cast<TSDateTimeToken>(passOn(token));
-    ASSERT_TRUE(copy);
-    EXPECT_EQ(copy->index(), 0);
-    EXPECT_EQ(copy->showName(), token->showName());
-    EXPECT_TRUE(copy->dateArray().isEmpty());
-    copy->editCellAction(3);
-    EXPECT_EQ(copy->showName(), QString()) << "the renderings are gone";
-    EXPECT_EQ(copy->text(kMoment, QTimeZone::utc()), QStringLiteral("03/31/2024"));
+    // An archive of the first variant holds what all archives once held.
+    for (const auto &[archived, read] : {std::pair<qint64, qint64>(2, 2), {0, 0}, {7, 0}, {-1, 0}}) {
+        token->setIndex(archived);
+        const auto copy = std::dynamic_pointer_cast<TSDateTimeToken>(passOn(token));
+        ASSERT_TRUE(copy);
+        EXPECT_EQ(copy->index(), read) << archived;
+        EXPECT_EQ(copy->showName(), token->showName());
+        EXPECT_TRUE(copy->dateArray().isEmpty());
+        copy->editCellAction(3);
+        EXPECT_EQ(copy->showName(), QString()) << "the renderings are gone";
+        EXPECT_EQ(copy->text(kMoment, QTimeZone::utc()), QStringLiteral("03/31/2024"));
+    }
 }

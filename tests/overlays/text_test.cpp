@@ -107,6 +107,24 @@ TEST_F(TextTest, TurnedTextGrowsFromTheCornerItBeginsAt)
     }
 }
 
+/// A text of a hundred times the pixels that there is memory for shows its letters where a smaller one that
+/// is enlarged to the same size would.
+TEST_F(TextTest, TextsOfAnySizeAreDrawnAsFarAsTheyAreSeen)
+{
+    const auto small = textAt("II", {0, 0}, 100);
+    const double left = boxWhere(seen(*small), isOver(128)).left() / 100.0;
+    for (const double height : {12000.0, 200000.0}) {
+        const auto text = textAt("II", {0, 0}, height);
+        text->setIsGlowEnable(true);
+        text->setGlowColor({0, 1, 0, 1});
+        text->setFrame(text->frame().translated(100 - left * height, -0.5 * height));
+        text->updateRenderTextImage();
+        const QRect ink = boxWhere(seen(*text), [](const QColor &color) { return color == Qt::white; });
+        EXPECT_NEAR(ink.left(), 100, 0.01 * height) << height;
+        EXPECT_EQ(ink.height(), kCanvas.height()) << height;
+    }
+}
+
 /// Millions of pixels wide, and of no number at all.
 TEST_F(TextTest, PicturesOfAnySizeAreDrawnAsFarAsTheyAreSeen)
 {

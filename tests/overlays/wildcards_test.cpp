@@ -8,6 +8,7 @@
 #include "overlays/TSWildcards.h"
 #include "support/Session.h"
 
+#include <QScopeGuard>
 #include <QTimeZone>
 
 namespace {
@@ -118,4 +119,18 @@ TEST_F(WildcardsTest, ValuesWithoutATextRepeatTheOneBefore)
     EXPECT_EQ(words(photo, {a, std::make_shared<TSNumberToken>()}), "aa");
     EXPECT_EQ(words(photo, {a, dated<TSDateCreatedToken>(4)}), "aa");
     EXPECT_EQ(words(photo, {a, named("ISO"), named("Name"), a}), "aa") << "an empty text is repeated too";
+}
+
+/// Cameras write in one calendar, people read in theirs.
+TEST_F(WildcardsTest, CamerasAreReadInTheirCalendarWhateverTheUsersIs)
+{
+    const QByteArray before = qgetenv("LC_ALL");
+    const auto restore = qScopeGuard([&] { qputenv("LC_ALL", before); });
+    const TSPhoto photo = photoWith({{"DateTimeOriginal", "2024:03:10 02:30:05"}});
+    for (const auto &[locale, expected] : {std::pair("de_DE.UTF-8", u8"03-10-2024"),
+                                           {"th_TH.UTF-8", u8"03-10-2567"},
+                                           {"fa_IR.UTF-8", u8"۱۲-۲۰-۱۴۰۲"}}) {
+        qputenv("LC_ALL", locale);
+        EXPECT_EQ(words(photo, {dated<TSDateShootingToken>(2)}), reinterpret_cast<const char *>(expected));
+    }
 }

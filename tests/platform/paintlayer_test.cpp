@@ -54,3 +54,18 @@ TEST(PaintLayerTest, ShadowFadesWithItsCasterAndSpreadsByItsBlur)
     EXPECT_EQ(extentOf(painted(outside), Qt::blue), QRect(10, 10, 10, 10))
         << "a caster out of sight still casts";
 }
+
+/// Corner and step are no whole numbers, and their fractions do not add up: each tile is rounded by itself.
+TEST(PaintLayerTest, EveryTileStandsOnThePixelNearestToItsPlace)
+{
+    for (const double corner : {0.0, 0.4, 0.45, 7.6}) {
+        platform::PaintLayer layer({200, 10});
+        layer.drawTiledImage({corner, 0, 10.42, 10}, {2, 10}, plainImage({2, 10}, Qt::red));
+        const QImage image = painted(layer);
+        for (int tile = 0; tile < 18; ++tile) {
+            const int x = qRound(corner + tile * 10.42);
+            EXPECT_EQ(qAlpha(image.pixel(x, 5)), 255) << corner << ", tile " << tile;
+            EXPECT_EQ(qAlpha(image.pixel(x + 2, 5)), 0) << corner << ", tile " << tile;
+        }
+    }
+}

@@ -7,6 +7,7 @@
 #include "profiles/TSProfileApplier.h"
 #include "profiles/TSProfileLibrary.h"
 #include "profiles/TSProfileSaver.h"
+#include "profiles/TSProfileStickers.h"
 #include "support/Session.h"
 
 #include <QDir>
@@ -89,13 +90,14 @@ TEST_F(ProfileTest, APackageHoldsArchivePictureAndTheUsersPictures)
 
     const QString saved = package("Two logos");
     EXPECT_EQ(filesIn(saved), (QStringList{"Stickers", "Two logos.jpg", "info.xml"}));
-    EXPECT_EQ(filesIn(saved + "/Stickers"), (QStringList{"Stickers_0.png", "Stickers_1.png"}));
+    EXPECT_EQ(filesIn(saved + "/Stickers"),
+              (QStringList{"Stickers_0.png", "Stickers_1.png", "Stickers_2.png"}));
     EXPECT_EQ(QImage(saved + "/Two logos.jpg").size(), QSize(400, 300));
     EXPECT_TRUE(bytesOf(saved + "/Stickers/Stickers_0.png").startsWith(QByteArray("II*\0", 4)));
     EXPECT_EQ(pixelOf(saved + "/Stickers/Stickers_1.png"), pixelOf(logo));
     EXPECT_EQ(second->imageName(), saved + "/Stickers/Stickers_0.png");
     EXPECT_EQ(first->imageName(), saved + "/Stickers/Stickers_1.png");
-    EXPECT_EQ(member->imageName(), "as it was");
+    EXPECT_EQ(member->imageName(), saved + "/Stickers/Stickers_2.png");
     EXPECT_EQ(filesIn(TSProfileLibrary::userFolder()), QStringList{"Two logos.tspf"});
     const auto root = platform::unarchiveFile(saved + "/info.xml", {});
     ASSERT_TRUE(root);
@@ -157,6 +159,86 @@ TEST_F(ProfileTest, ALayoutKeepsItsPlaceOnAnotherCanvasAndInAnotherFolder)
     EXPECT_EQ(session.overlays.overlayCount(), 4);
     EXPECT_EQ(session.overlays.indexOfOverlay(former[0]), 1);
     EXPECT_TRUE(session.overlays.overlayAtIndex(2)->isScript());
+}
+
+/// Where neither the package nor the pictures it was made of are any more.
+TEST_F(ProfileTest, APackageBringsAllItsPicturesAlong)
+{
+    const QString drawing =
+        session.write("logo.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='4' height='4'>"
+                                  "<rect width='4' height='4' fill='#00ff00'/></svg>");
+    addPicture(drawing);
+    const QString blue = session.writePng("blue.png", plainImage({8, 8}, Qt::blue));
+    const QString red = session.writePng("red.png", plainImage({8, 8}, Qt::red));
+    TSGroup::Members members;
+    for (const QString &path : {red, blue}) {
+        const auto member = std::make_shared<TSImage>(path);
+        member->setIsFromFinder(true);
+        member->setFrame({double(members.size()) * 20, 0, 10, 10});
+        members.push_back(member);
+    }
+    const auto inner = TSGroup::groupOverlayWithOverlays({members.back()});
+    add(TSGroup::groupOverlayWithOverlays({members.front(), inner}), {300, 300, 100, 50});
+    QStringList missing;
+    ASSERT_EQ(TSProfileSaver::saveProfile("All", &missing), "");
+    EXPECT_TRUE(missing.isEmpty());
+    const QString moved = session.path("Elsewhere.tspf");
+    ASSERT_TRUE(QDir().rename(package("All"), moved));
+    for (const QString &path : {drawing, blue, red})
+        QFile::remove(path);
+    session.cache.clearCache();
+
+    TSProfileApplier applier;
+    ASSERT_TRUE(applier.applyProfile(moved));
+    EXPECT_TRUE(applier.missingPictures().isEmpty());
+    const auto pictures = TSProfileStickers::picturesAmong(session.overlays.overlays());
+    ASSERT_EQ(pictures.size(), 3u);
+    const std::tuple<const char *, const char *, QColor> expected[] = {
+        {"svg", "png", Qt::green}, {"png", "png", Qt::red}, {"png", "png", Qt::blue}};
+    for (size_t i = 0; i < 3; ++i) {
+        const auto &[shown, told, color] = expected[i];
+        const QString file = moved + QStringLiteral("/Stickers/Stickers_%1.").arg(i);
+        EXPECT_EQ(pictures[i]->imagePath(), file + shown);
+        EXPECT_EQ(pixelOf(file + told), color) << "who knows no drawings finds pixels";
+    }
+    // Saved again out of its own package, and without what it is made of.
+    ASSERT_EQ(TSProfileSaver::saveProfile("Again"), "");
+    EXPECT_EQ(filesIn(package("Again") + "/Stickers"), filesIn(moved + "/Stickers"));
+    QDir(moved).removeRecursively();
+    session.cache.clearCache();
+    EXPECT_EQ(TSProfileSaver::saveProfile("Empty", &missing), "");
+    EXPECT_EQ(missing, QStringList({"Stickers_0.svg", "Stickers_1.png", "Stickers_2.png"}));
+}
+
+/// As packages were once written: members of groups have no files, and names that may be another's.
+TEST_F(ProfileTest, AMemberOfAGroupTakesNoOthersPicture)
+{
+    addPicture(session.writePng("red.png", plainImage({8, 8}, Qt::red)));
+    const QString blue = session.writePng("blue.png", plainImage({8, 8}, Qt::blue));
+    const auto member = std::make_shared<TSImage>(blue);
+    member->setIsFromFinder(true);
+    member->setOldPath(blue);
+    member->setFrame({0, 0, 10, 10});
+    add(TSGroup::groupOverlayWithOverlays({member}), {300, 300, 100, 50});
+    ASSERT_EQ(TSProfileSaver::saveProfile("Old"), "");
+    QFile::remove(package("Old") + "/Stickers/Stickers_1.png");
+    member->setImageName(package("Old") + "/Stickers/Stickers_0.png");
+    const std::shared_ptr<TSOverlayManager> marks(&session.overlays, [](TSOverlayManager *) {});
+    const QByteArray archive = platform::archiveRootObject(
+        platform::ArchiveValue::Dictionary{{QStringLiteral("overlayManager"), marks}});
+    QFile file(package("Old") + "/info.xml");
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(archive) == archive.size());
+    file.close();
+    for (const bool isThere : {true, false}) {
+        if (!isThere)
+            QFile::remove(blue);
+        TSProfileApplier applier;
+        ASSERT_TRUE(applier.applyProfile(package("Old")));
+        const auto pictures = TSProfileStickers::picturesAmong(session.overlays.overlays());
+        ASSERT_EQ(pictures.size(), 2u);
+        EXPECT_EQ(pictures[1]->imagePath(), blue);
+        EXPECT_EQ(applier.missingPictures(), isThere ? QStringList() : QStringList("blue.png"));
+    }
 }
 
 /// The pictures of the marks lie in the very package that is replaced, under names that change hands.
@@ -238,6 +320,26 @@ TEST_F(ProfileTest, WhatIsNoArchiveAddsNothing)
         EXPECT_EQ(session.overlays.overlayCount(), 0);
     }
     EXPECT_FALSE(TSProfileApplier().applyProfile(session.path("nothing.tspf")));
+}
+
+TEST_F(ProfileTest, WhatComesWithTheProgramTellsNothingOfAMachine)
+{
+    const auto image = std::make_shared<TSImage>(platform::resourceFolder() + "/Stickers/sticker_05.svg");
+    add(image, {10, 10, 50, 50});
+    ASSERT_EQ(TSProfileSaver::saveProfile("Sticker"), "");
+    QStringList archives = {package("Sticker") + "/info.xml"};
+    for (const TSProfileEntry &entry : TSProfileLibrary::profiles())
+        if (entry.group != "My Profiles")
+            archives.append(TSProfileLibrary::archivePath(entry.path));
+    EXPECT_GT(archives.size(), 20);
+    for (const QString &archive : archives) {
+        const QByteArray bytes = bytesOf(archive);
+        EXPECT_FALSE(bytes.contains("/resources/") || bytes.contains("/home/") || bytes.contains("/tmp/"))
+            << archive.toStdString();
+    }
+    ASSERT_TRUE(TSProfileApplier().applyProfile(package("Sticker")));
+    EXPECT_EQ(TSProfileStickers::picturesAmong(session.overlays.overlays())[0]->imagePath(),
+              image->imagePath());
 }
 
 TEST_F(ProfileTest, ProfilesAreFoundByPathTitleAndName)

@@ -49,9 +49,10 @@ protected:
     {
         return "%PDF-1.4\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n"
                "2 0 obj<</Type/Pages/Kids[3 0 R]/Count 1>>endobj\n"
-               "3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 200 100]/Contents 4 0 R" +
-               ofPage + ">>endobj\n4 0 obj<</Length " + QByteArray::number(body.size()) + ">>stream\n" +
-               body + "\nendstream endobj\ntrailer<</Root 1 0 R" + ofTrailer + ">>\n";
+               "3 0 obj<</Type/Page/Parent 2 0 R/Contents 4 0 R" +
+               (ofPage.contains("MediaBox") ? QByteArray() : "/MediaBox[0 0 200 100]") + ofPage +
+               ">>endobj\n4 0 obj<</Length " + QByteArray::number(body.size()) + ">>stream\n" + body +
+               "\nendstream endobj\ntrailer<</Root 1 0 R" + ofTrailer + ">>\n";
     }
     QStringList titles() const
     {
@@ -146,6 +147,10 @@ TEST_F(PhotoIntakeTest, DrawingsTouchABoxOf2000)
     const QByteArray square = "<rect x='0' y='0' width='100' height='100' fill='#ff0000'/>";
     const std::tuple<const char *, QByteArray, QSize, QColor> cases[] = {
         {"a.eps", eps("1 0 0 setrgbcolor 0 0 100 100 rectfill"), {2000, 1000}, Qt::transparent},
+        {"no-blank.eps",
+         eps("1 0 0 setrgbcolor 0 0 100 100 rectfill").replace("Box: ", "Box:"),
+         {2000, 1000},
+         Qt::transparent},
         {"a.svg", svg(square), {2000, 1000}, Qt::transparent},
         {"b.svg", entities + svg(square + "<text>&x;&b;</text>"), {2000, 1000}, Qt::transparent},
         {"a.PDF", pdf("1 0 0 rg 0 0 100 100 re f"), {2000, 1000}, Qt::white},
@@ -160,6 +165,25 @@ TEST_F(PhotoIntakeTest, DrawingsTouchABoxOf2000)
         EXPECT_EQ(item->frameSize, QSizeF(size));
         EXPECT_EQ(extentOf(item->cgimage, Qt::red), QRect(0, 0, 1000, 1000)) << name;
         EXPECT_EQ(item->cgimage.pixelColor(size.width() - 5, size.height() - 5), paper) << name;
+    }
+}
+
+/// Pages whose height is no whole number of pixels are covered to their last row and column.
+TEST_F(PhotoIntakeTest, DrawingsFillTheirLastRow)
+{
+    const QByteArray fill = "1 0 0 rg -9 -9 999 999 re f";
+    const std::tuple<const char *, QByteArray, QSize> cases[] = {
+        {"a.svg",
+         "<svg viewBox='0 0 300 200.06'><rect width='300' height='200.06' fill='#ff0000'/></svg>",
+         {2000, 1334}},
+        {"a.pdf", pdf(fill, "/MediaBox[0 0 300 199.91]"), {2000, 1333}},
+        {"a.ai", pdf(fill, "/MediaBox[0 0 300 199.91]/Rotate 90"), {1333, 2000}},
+    };
+    for (const auto &[name, bytes, size] : cases) {
+        session.data.removeAllPhotos();
+        m_intake.addItemsWithURLs({session.write(QString::fromLatin1(name), bytes)}, false);
+        ASSERT_EQ(session.data.photoCount(), 1) << name;
+        EXPECT_EQ(extentOf(session.data.itemAtIndex(0)->cgimage, Qt::red), QRect({0, 0}, size)) << name;
     }
 }
 

@@ -1,8 +1,11 @@
 #include "controls/TSCheckBoxAlert.h"
 #include "overlays/TSOverlayManager.h"
+#include "profiles/TSProfileLibrary.h"
+#include "profiles/TSProfileSaver.h"
 #include "session/TSDataManager.h"
 #include "session/TSPhotoManager.h"
 #include "shell/TSMainWindowController.h"
+#include "shell/TSSaveProfileWindowController.h"
 #include "support/Session.h"
 #include "ui/photos/TSPhotoStripView.h"
 #include "ui/photos/TSThumbnailLoader.h"
@@ -225,6 +228,44 @@ TEST_F(MainWindowTest, ActionsFollowPhotosAndMarks)
     window().removePhotoAction->trigger();
     EXPECT_TRUE(window().isStartViewShown());
     EXPECT_EQ(states(), QList<bool>({false, false, false, false, false}));
+}
+
+/// Types one name after the other, and answers the questions that come in between.
+TEST_F(MainWindowTest, ANameForALayoutIsAskedForUntilThereIsOne)
+{
+    const QString photo = session.writeJpeg("photo.jpg", plainImage({300, 200}));
+    addPhotos({photo});
+    window().addTextAction->trigger();
+    ASSERT_EQ(TSProfileSaver::saveProfile("Taken"), "");
+    const QString archive = TSProfileLibrary::archivePath(TSProfileLibrary::userPackage("Taken"));
+    ASSERT_TRUE(QFile::remove(archive));
+    // A name, and what the alert that may follow is answered with.
+    std::vector<std::pair<const char *, int>> steps = {{"", 1}, {"a/b", 1}, {"Taken", 0}, {"Taken", 1}};
+    QStringList asked;
+    QTimer hand;
+    QObject::connect(&hand, &QTimer::timeout, [&] {
+        QWidget *modal = QApplication::activeModalWidget();
+        if (auto *alert = qobject_cast<TSCheckBoxAlert *>(modal)) {
+            asked.append(QFile::exists(archive) ? "replaced" : "kept");
+            const int answer = steps[asked.size() - 1].second;
+            alert->done(answer);
+        } else if (auto *sheet = qobject_cast<TSSaveProfileWindowController *>(modal)) {
+            if (asked.size() == qsizetype(steps.size()))
+                return sheet->reject();
+            sheet->setTextValue(QString::fromLatin1(steps[size_t(asked.size())].first));
+            // Not from in here, where the timer stands still.
+            QMetaObject::invokeMethod(sheet, &TSSaveProfileWindowController::accept, Qt::QueuedConnection);
+        }
+    });
+    hand.start(20);
+    window().openSaveProfile->trigger();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return asked.size() == qsizetype(steps.size()) && !QApplication::activeModalWidget(); },
+        20000));
+    hand.stop();
+    EXPECT_EQ(asked, QStringList({"kept", "kept", "kept", "kept"}));
+    EXPECT_TRUE(QFile::exists(archive)) << "the last answer was to replace it";
+    EXPECT_EQ(TSProfileLibrary::profiles().front().name, "Taken");
 }
 
 TEST_F(MainWindowTest, ZoomAndWindowKeepTheMarkOnThePhoto)

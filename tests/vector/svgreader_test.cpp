@@ -171,6 +171,55 @@ TEST(Drawing, PutsStrokeOverGradientOverFill)
     EXPECT_EQ(image.pixelColor(30, 10), QColor(0, 0, 0));
 }
 
+TEST(Drawing, StopsAtOnePositionAreAnEdge)
+{
+    const auto stop = [](const char *offset, const char *color) {
+        return QByteArray("<stop offset='") + offset + "' style='stop-color:" + color + "'/>";
+    };
+    const QByteArray red = "#ff0000", blue = "#0000ff", green = "#00ff00";
+    // Of three stops at one position, the one between is never seen; and what is beyond the last has its
+    // colour.
+    const std::tuple<QByteArray, QColor, QColor> table[] = {
+        {stop("0", red) + stop("0.5", red) + stop("0.5", blue) + stop("1", blue), Qt::red, Qt::blue},
+        {stop("0.5", red) + stop("0.5", green) + stop("0.5", blue), Qt::red, Qt::blue},
+        {stop("0", red) + stop("0", blue), Qt::blue, Qt::blue},
+        {stop("0", red) + stop("1", red) + stop("1", blue), Qt::red, Qt::red}};
+    for (const auto &[stops, left, right] : table) {
+        const QImage image =
+            drawn("<svg viewBox='0 0 120 10'><linearGradient id='g' x1='10' x2='110'>" + stops +
+                  "</linearGradient><rect width='120' height='10' fill='url(#g)'/></svg>");
+        EXPECT_EQ(image.pixelColor(12, 5), left) << stops.constData();
+        EXPECT_EQ(image.pixelColor(58, 5), left) << stops.constData();
+        EXPECT_EQ(image.pixelColor(62, 5), right) << stops.constData();
+        EXPECT_EQ(image.pixelColor(107, 5), right) << stops.constData();
+    }
+}
+
+TEST(Drawing, WhatHasNoLengthIsItsCaps)
+{
+    const std::pair<const char *, int> caps[] = {{"round", 3}, {"square", 3}, {"butt", 0}};
+    const char *const elements[] = {"<line x1='10' y1='10' x2='55' y2='10' stroke-dasharray='0,20' %1/>",
+                                    "<path d='M10 10L10 10M30 10zM50 10l0 0' %1/>",
+                                    "<path d='M10 10c0 0 0 0 0 0M30 10h0v0M50 10V10M70 10' %1/>"};
+    for (const auto &[cap, count] : caps) {
+        for (const char *element : elements) {
+            const QString look =
+                QStringLiteral("fill='none' stroke='#ff0000' stroke-width='8' stroke-linecap='%1'").arg(cap);
+            const QImage image = drawn("<svg viewBox='0 0 80 20'>" +
+                                       QString::fromLatin1(element).arg(look).toLatin1() + "</svg>");
+            int seen = 0;
+            for (const int x : {10, 30, 50, 70})
+                seen += boxWhere(image.copy(x - 8, 0, 16, 20), [](const QColor &color) {
+                            return color.alpha() > 128;
+                        }).width() >= 6;
+            EXPECT_EQ(seen, count) << element << cap;
+        }
+    }
+    const QImage dot = drawn("<svg viewBox='0 0 20 20'><line x1='9' y1='9' x2='9' y2='9' stroke='#ff0000' "
+                             "stroke-width='8' stroke-linecap='square'/></svg>");
+    EXPECT_EQ(extentOf(dot, Qt::red), QRect(5, 5, 8, 8));
+}
+
 TEST(Drawing, StretchesIntoTheRectangle)
 {
     const auto drawing = TSSVGImage::imageWithSVGData(

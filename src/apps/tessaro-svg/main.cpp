@@ -23,7 +23,8 @@ int main(int argc, char **argv)
     if (surface.isNull())
         return 1;
     QPainter painter(&surface);
-    drawing->drawInRect(painter, QRectF(QPointF(0, 0), size));
+    // All of the surface, whose sides are whole: a last row that the drawing covers in part shows as an edge.
+    drawing->drawInRect(painter, QRectF(surface.rect()));
     painter.end();
     return platform::writeRawPicture(surface, QFile::decodeName(argv[3])) ? 0 : 1;
 }
