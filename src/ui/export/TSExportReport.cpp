@@ -51,8 +51,8 @@ void TSExportReport::addAll(qint64 photoCount, const QString &reason)
 void TSExportReport::tell(const QString &photoPath, const QString &reason, qint64 count)
 {
     m_toldCount += count;
-    const auto known = std::find_if(m_told.begin(), m_told.end(),
-                                    [&](const Told &told) { return told.reason == reason; });
+    const auto known =
+        std::find_if(m_told.begin(), m_told.end(), [&](const Told &told) { return told.reason == reason; });
     if (known != m_told.end())
         known->count += count;
     else

@@ -5,8 +5,8 @@
 #include <QString>
 #include <vector>
 
-/// What a run could not do, and photos on which no mark shows, in sentences for the user. Filled by the thread of the run, read when that has
-/// ended.
+/// What a run could not do, and photos on which no mark shows, in sentences for the user. Filled by the
+/// thread of the run, read when that has ended.
 class TSExportReport {
 public:
     void add(const QString &photoPath, const TSExportOutcome &outcome);
