@@ -1,9 +1,9 @@
 // The steps that a mark costs in each photo, one by one, at the sizes that a photo of 24 megapixels brings.
 
 #include "overlays/TSTextRenderer.h"
-#include "platform/BoxBlur.h"
-#include "platform/PaintLayer.h"
-#include "platform/StampBlend.h"
+#include "platform/paint/BoxBlur.h"
+#include "platform/paint/PaintLayer.h"
+#include "platform/paint/StampBlend.h"
 
 #include <benchmark/benchmark.h>
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
 #include "controls/TSStyle.h"
 #include "overlays/TSOverlayManager.h"
-#include "platform/UserDefaults.h"
+#include "platform/system/UserDefaults.h"
 #include "session/TSDataManager.h"
 #include "session/TSDefaults.h"
 #include "session/TSPhotoManager.h"

@@ -1,5 +1,5 @@
 #include "overlays/TSOverlayClasses.h"
-#include "platform/KeyedArchive.h"
+#include "platform/archive/KeyedArchive.h"
 #include "session/TSDataManager.h"
 #include "Target.h"
 

@@ -1,5 +1,5 @@
-#include "platform/CarriedMetadata.h"
-#include "platform/JpegFile.h"
+#include "platform/metadata/CarriedMetadata.h"
+#include "platform/metadata/JpegFile.h"
 #include "Target.h"
 
 #include <QImage>

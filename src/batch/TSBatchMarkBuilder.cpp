@@ -5,7 +5,7 @@
 #include "overlays/TSImage.h"
 #include "overlays/TSOverlayManager.h"
 #include "overlays/TSText.h"
-#include "platform/Folders.h"
+#include "platform/system/Folders.h"
 #include "profiles/TSProfileApplier.h"
 #include "session/TSCacheManager.h"
 #include "session/TSDataManager.h"

@@ -3,9 +3,9 @@
 #include "batch/TSBatchListFile.h"
 #include "batch/TSBatchValues.h"
 #include "naming/TSPatternParser.h"
-#include "platform/FontChoice.h"
-#include "platform/ImageFile.h"
-#include "platform/Picture.h"
+#include "platform/image/ImageFile.h"
+#include "platform/paint/Picture.h"
+#include "platform/text/FontChoice.h"
 #include "profiles/TSProfileLibrary.h"
 
 #include <algorithm>

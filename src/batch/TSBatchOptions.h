@@ -2,7 +2,7 @@
 
 #include "export/TSExportHost.h"
 #include "naming/TSTokenValue.h"
-#include "platform/TextAttributes.h"
+#include "platform/text/TextAttributes.h"
 #include "session/TSOutputCodes.h"
 #include "session/TSPositionCode.h"
 

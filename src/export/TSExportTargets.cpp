@@ -1,6 +1,6 @@
 #include "export/TSExportTargets.h"
 
-#include "platform/FileIdentity.h"
+#include "platform/system/FileIdentity.h"
 #include "session/TSDataManager.h"
 #include "session/TSFileUtility.h"
 

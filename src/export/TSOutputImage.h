@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/LazyImage.h"
-#include "platform/PaintLayer.h"
-#include "platform/ThumbnailCollector.h"
+#include "platform/image/LazyImage.h"
+#include "platform/image/ThumbnailCollector.h"
+#include "platform/paint/PaintLayer.h"
 
 #include <memory>
 #include <QSize>

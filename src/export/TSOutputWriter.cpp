@@ -1,7 +1,7 @@
 #include "export/TSOutputWriter.h"
 
 #include "export/TSFailureText.h"
-#include "platform/TiffMetadata.h"
+#include "platform/metadata/TiffMetadata.h"
 #include "session/TSOutputCodes.h"
 
 #include <cmath>

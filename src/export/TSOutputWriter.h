@@ -1,9 +1,9 @@
 #pragma once
 
 #include "export/TSOutputImage.h"
-#include "platform/AtomicFile.h"
-#include "platform/CarriedMetadata.h"
-#include "platform/JpegFile.h"
+#include "platform/metadata/CarriedMetadata.h"
+#include "platform/metadata/JpegFile.h"
+#include "platform/system/AtomicFile.h"
 
 #include <functional>
 #include <memory>

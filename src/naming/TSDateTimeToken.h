@@ -1,7 +1,7 @@
 #pragma once
 
 #include "naming/TSToken.h"
-#include "platform/DateFormatter.h"
+#include "platform/system/DateFormatter.h"
 
 #include <optional>
 

@@ -1,6 +1,6 @@
 #include "naming/TSOutputSettings.h"
 
-#include "platform/UserDefaults.h"
+#include "platform/system/UserDefaults.h"
 #include "session/TSDataManager.h"
 #include "session/TSNotificationCenter.h"
 

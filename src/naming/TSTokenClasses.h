@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/KeyedUnarchiver.h"
+#include "platform/archive/KeyedUnarchiver.h"
 
 /// The token classes under the names that archives give them.
 platform::ArchiveClasses tokenClasses();

@@ -1,9 +1,9 @@
 #include "overlays/TSGroup.h"
 
 #include "overlays/TSText.h"
-#include "platform/KeyedArchiver.h"
-#include "platform/KeyedUnarchiver.h"
-#include "platform/PaintLayer.h"
+#include "platform/archive/KeyedArchiver.h"
+#include "platform/archive/KeyedUnarchiver.h"
+#include "platform/paint/PaintLayer.h"
 #include "session/TSQuartzUtility.h"
 
 namespace {

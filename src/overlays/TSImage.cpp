@@ -1,10 +1,10 @@
 #include "overlays/TSImage.h"
 
 #include "overlays/TSImageScreen.h"
-#include "platform/Folders.h"
-#include "platform/KeyedArchiver.h"
-#include "platform/KeyedUnarchiver.h"
-#include "platform/PaintLayer.h"
+#include "platform/archive/KeyedArchiver.h"
+#include "platform/archive/KeyedUnarchiver.h"
+#include "platform/paint/PaintLayer.h"
+#include "platform/system/Folders.h"
 #include "session/TSCacheManager.h"
 
 #include <algorithm>

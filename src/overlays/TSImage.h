@@ -1,7 +1,7 @@
 #pragma once
 
 #include "overlays/TSOverlay.h"
-#include "platform/Picture.h"
+#include "platform/paint/Picture.h"
 
 #include <memory>
 #include <QImage>

@@ -1,7 +1,7 @@
 #include "overlays/TSOverlay.h"
 
-#include "platform/KeyedArchiver.h"
-#include "platform/KeyedUnarchiver.h"
+#include "platform/archive/KeyedArchiver.h"
+#include "platform/archive/KeyedUnarchiver.h"
 #include "session/TSPhotoManager.h"
 
 #include <QTransform>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/KeyedUnarchiver.h"
+#include "platform/archive/KeyedUnarchiver.h"
 
 /// The classes that an archive of a layout is made of, the tokens of its texts among them.
 const platform::ArchiveClasses &TSOverlayClasses();

@@ -3,8 +3,8 @@
 #include "overlays/TSGroup.h"
 #include "overlays/TSImage.h"
 #include "overlays/TSText.h"
-#include "platform/KeyedArchiver.h"
-#include "platform/KeyedUnarchiver.h"
+#include "platform/archive/KeyedArchiver.h"
+#include "platform/archive/KeyedUnarchiver.h"
 
 #include <algorithm>
 

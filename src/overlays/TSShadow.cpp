@@ -1,8 +1,8 @@
 #include "overlays/TSShadow.h"
 
 #include "overlays/TSPackedColor.h"
-#include "platform/KeyedArchiver.h"
-#include "platform/KeyedUnarchiver.h"
+#include "platform/archive/KeyedArchiver.h"
+#include "platform/archive/KeyedUnarchiver.h"
 
 #include <cmath>
 #include <numbers>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Archivable.h"
-#include "platform/Color.h"
+#include "platform/archive/Archivable.h"
+#include "platform/paint/Color.h"
 
 #include <QSizeF>
 

@@ -1,7 +1,7 @@
 #include "overlays/TSText.h"
 
 #include "overlays/TSWildcards.h"
-#include "platform/PaintLayer.h"
+#include "platform/paint/PaintLayer.h"
 #include "session/TSDataManager.h"
 #include "session/TSImageUtility.h"
 

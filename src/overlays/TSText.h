@@ -3,7 +3,7 @@
 #include "naming/TSTokenValue.h"
 #include "overlays/TSOverlay.h"
 #include "overlays/TSTextRenderer.h"
-#include "platform/AttributedString.h"
+#include "platform/text/AttributedString.h"
 
 class TSPhoto;
 

@@ -1,8 +1,8 @@
 #include "naming/TSToken.h"
 #include "overlays/TSPackedColor.h"
 #include "overlays/TSText.h"
-#include "platform/KeyedArchiver.h"
-#include "platform/KeyedUnarchiver.h"
+#include "platform/archive/KeyedArchiver.h"
+#include "platform/archive/KeyedUnarchiver.h"
 
 // The archive of `TSText`. The picture and the layout are not part of it; they are made anew at the first
 // draw.

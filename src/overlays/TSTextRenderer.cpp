@@ -1,6 +1,6 @@
 #include "overlays/TSTextRenderer.h"
 
-#include "platform/BoxBlur.h"
+#include "platform/paint/BoxBlur.h"
 #include "session/TSImageUtility.h"
 
 #include <algorithm>

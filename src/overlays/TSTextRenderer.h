@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/AttributedString.h"
-#include "platform/TextLayout.h"
+#include "platform/text/AttributedString.h"
+#include "platform/text/TextLayout.h"
 
 #include <memory>
 #include <QImage>

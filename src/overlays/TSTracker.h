@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Color.h"
+#include "platform/paint/Color.h"
 
 #include <QPointF>
 #include <QRectF>

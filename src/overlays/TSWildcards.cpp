@@ -5,7 +5,7 @@
 #include "naming/TSDateShootingToken.h"
 #include "naming/TSNameToken.h"
 #include "naming/TSTimeShootingToken.h"
-#include "platform/DateFormatter.h"
+#include "platform/system/DateFormatter.h"
 #include "session/TSImageBrowserItem.h"
 #include "session/TSPhotoManager.h"
 

@@ -3,7 +3,7 @@
 #include "overlays/TSHitTest.h"
 #include "overlays/TSImageScreen.h"
 #include "overlays/TSOverlayManager.h"
-#include "platform/PaintLayer.h"
+#include "platform/paint/PaintLayer.h"
 #include "session/TSDataManager.h"
 
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "preview/TSSnapping.h"
 
-#include "platform/UserDefaults.h"
+#include "platform/system/UserDefaults.h"
 #include "preview/TSTrackerState.h"
 #include "session/TSDataManager.h"
 

@@ -1,7 +1,7 @@
 #include "preview/TSTrackerLayer.h"
 
 #include "overlays/TSAnchor.h"
-#include "platform/UserDefaults.h"
+#include "platform/system/UserDefaults.h"
 #include "preview/TSOverlayCreation.h"
 #include "preview/TSSelection.h"
 #include "preview/TSTrackerState.h"

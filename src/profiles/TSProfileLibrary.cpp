@@ -1,6 +1,6 @@
 #include "profiles/TSProfileLibrary.h"
 
-#include "platform/Folders.h"
+#include "platform/system/Folders.h"
 
 #include <algorithm>
 #include <QCollator>

@@ -1,8 +1,8 @@
 #include "profiles/TSProfileStickers.h"
 
 #include "overlays/TSGroup.h"
-#include "platform/AtomicFile.h"
-#include "platform/LazyImage.h"
+#include "platform/image/LazyImage.h"
+#include "platform/system/AtomicFile.h"
 #include "profiles/TSProfileLibrary.h"
 
 #include <QFile>

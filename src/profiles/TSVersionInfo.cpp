@@ -1,6 +1,6 @@
 #include "profiles/TSVersionInfo.h"
 
-#include "platform/KeyedArchiver.h"
+#include "platform/archive/KeyedArchiver.h"
 
 #include <QCoreApplication>
 

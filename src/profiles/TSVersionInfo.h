@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/KeyedUnarchiver.h"
+#include "platform/archive/KeyedUnarchiver.h"
 
 /// Who wrote an archive. Written with every layout and never looked at: packages of other versions load
 /// alike.

@@ -1,6 +1,6 @@
 #include "session/TSDataManager.h"
 
-#include "platform/ImageFile.h"
+#include "platform/image/ImageFile.h"
 #include "session/TSFileUtility.h"
 #include "session/TSImageUtility.h"
 #include "session/TSPhotoManager.h"

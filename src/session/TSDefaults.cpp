@@ -1,6 +1,6 @@
 #include "session/TSDefaults.h"
 
-#include "platform/UserDefaults.h"
+#include "platform/system/UserDefaults.h"
 
 namespace {
 

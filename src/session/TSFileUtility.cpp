@@ -1,6 +1,6 @@
 #include "session/TSFileUtility.h"
 
-#include "platform/ImageFile.h"
+#include "platform/image/ImageFile.h"
 
 #include <algorithm>
 #include <array>

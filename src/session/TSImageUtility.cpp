@@ -1,7 +1,7 @@
 #include "session/TSImageUtility.h"
 
-#include "platform/ImageFile.h"
-#include "platform/LazyImage.h"
+#include "platform/image/ImageFile.h"
+#include "platform/image/LazyImage.h"
 #include "session/TSFileUtility.h"
 #include "session/TSQuartzUtility.h"
 

@@ -1,6 +1,6 @@
 #include "session/TSLastFolder.h"
 
-#include "platform/UserDefaults.h"
+#include "platform/system/UserDefaults.h"
 
 #include <QDir>
 #include <QStandardPaths>

@@ -1,9 +1,9 @@
 #include "session/TSPhotoIntake.h"
 
-#include "platform/DrawingFile.h"
-#include "platform/FrameReader.h"
-#include "platform/ImageFile.h"
-#include "platform/ImageProperties.h"
+#include "platform/drawing/DrawingFile.h"
+#include "platform/image/FrameReader.h"
+#include "platform/image/ImageFile.h"
+#include "platform/metadata/ImageProperties.h"
 #include "session/TSDataManager.h"
 #include "session/TSFileUtility.h"
 #include "session/TSPhotoManager.h"

@@ -5,7 +5,7 @@
 #include "controls/TSSegmentedControl.h"
 #include "controls/TSTheme.h"
 #include "overlays/TSOverlayManager.h"
-#include "platform/UserDefaults.h"
+#include "platform/system/UserDefaults.h"
 #include "preview/TSPhotoDrop.h"
 #include "session/TSDataManager.h"
 #include "session/TSDefaults.h"

@@ -1,7 +1,7 @@
 #include "shell/TSPreferencesWindowController.h"
 
 #include "controls/TSTheme.h"
-#include "platform/UserDefaults.h"
+#include "platform/system/UserDefaults.h"
 #include "ui/export/TSSaveInfoWindowController.h"
 
 #include <QCheckBox>

@@ -2,7 +2,7 @@
 
 #include "controls/TSSegmentedControl.h"
 #include "overlays/TSOverlayManager.h"
-#include "platform/UserDefaults.h"
+#include "platform/system/UserDefaults.h"
 #include "session/TSDataManager.h"
 #include "session/TSNotificationCenter.h"
 #include "shell/TSMainWindow.h"

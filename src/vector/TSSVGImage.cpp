@@ -1,6 +1,6 @@
 #include "vector/TSSVGImage.h"
 
-#include "platform/Folders.h"
+#include "platform/system/Folders.h"
 #include "vector/TSSVGParser.h"
 
 #include <cmath>

@@ -1,5 +1,5 @@
 #include "batch/TSBatchCommand.h"
-#include "platform/Folders.h"
+#include "platform/system/Folders.h"
 #include "support/Session.h"
 
 #include <QDir>

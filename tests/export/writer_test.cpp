@@ -1,11 +1,11 @@
 #include "export/TSOutputComposer.h"
 #include "export/TSOutputWriter.h"
-#include "platform/CarriedMetadata.h"
-#include "platform/ColorProfile.h"
-#include "platform/ImageProperties.h"
-#include "platform/JpegFile.h"
+#include "platform/image/ColorProfile.h"
+#include "platform/metadata/CarriedMetadata.h"
+#include "platform/metadata/ImageProperties.h"
+#include "platform/metadata/JpegFile.h"
+#include "platform/metadata/MetadataBlobs.h"
 #include "platform/metadata_bytes.h"
-#include "platform/MetadataBlobs.h"
 #include "support/ExportSession.h"
 
 #include <QDir>

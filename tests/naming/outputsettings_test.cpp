@@ -1,5 +1,5 @@
 #include "naming/TSOutputSettings.h"
-#include "platform/UserDefaults.h"
+#include "platform/system/UserDefaults.h"
 #include "session/TSDataManager.h"
 #include "session/TSNotificationCenter.h"
 #include "session/TSPhotoManager.h"

@@ -5,7 +5,7 @@
 #include "naming/TSNumberToken.h"
 #include "naming/TSTimeShootingToken.h"
 #include "naming/TSTokenClasses.h"
-#include "platform/KeyedArchive.h"
+#include "platform/archive/KeyedArchive.h"
 #include "session/TSNotificationCenter.h"
 
 #include <gtest/gtest.h>

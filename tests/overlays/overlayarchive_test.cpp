@@ -5,9 +5,9 @@
 #include "overlays/TSPackedColor.h"
 #include "overlays/TSText.h"
 #include "overlays/TSWildcards.h"
-#include "platform/Folders.h"
-#include "platform/KeyedArchive.h"
-#include "platform/KeyedArchiver.h"
+#include "platform/archive/KeyedArchive.h"
+#include "platform/archive/KeyedArchiver.h"
+#include "platform/system/Folders.h"
 #include "support/Session.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include "overlays/TSImage.h"
 #include "overlays/TSText.h"
-#include "platform/PaintLayer.h"
-#include "platform/TextLayout.h"
+#include "platform/paint/PaintLayer.h"
+#include "platform/text/TextLayout.h"
 #include "support/Session.h"
 
 #include <numbers>

@@ -1,4 +1,4 @@
-#include "platform/BoxBlur.h"
+#include "platform/paint/BoxBlur.h"
 
 #include "support/Pictures.h"
 

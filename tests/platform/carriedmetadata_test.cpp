@@ -1,5 +1,5 @@
+#include "platform/metadata/MetadataBlobs.h"
 #include "platform/metadata_bytes.h"
-#include "platform/MetadataBlobs.h"
 #include "support/Pictures.h"
 
 #include <gtest/gtest.h>

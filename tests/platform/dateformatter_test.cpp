@@ -1,4 +1,4 @@
-#include "platform/DateFormatter.h"
+#include "platform/system/DateFormatter.h"
 
 #include <gtest/gtest.h>
 #include <QScopeGuard>

@@ -1,7 +1,7 @@
-#include "platform/ImageProperties.h"
+#include "platform/metadata/ImageProperties.h"
 
+#include "platform/metadata/MetadataBlobs.h"
 #include "platform/metadata_bytes.h"
-#include "platform/MetadataBlobs.h"
 #include "support/Folder.h"
 
 using platform::imageProperties;

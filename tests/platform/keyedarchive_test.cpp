@@ -1,5 +1,5 @@
-#include "platform/KeyedArchive.h"
-#include "platform/KeyedArchiver.h"
+#include "platform/archive/KeyedArchive.h"
+#include "platform/archive/KeyedArchiver.h"
 
 #include <gtest/gtest.h>
 #include <limits>

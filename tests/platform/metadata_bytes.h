@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/CarriedMetadata.h"
-#include "platform/JpegFile.h"
-#include "platform/StandInPicture.h"
-#include "platform/TiffDirectoryWriter.h"
-#include "platform/TiffStructure.h"
+#include "platform/image/TiffStructure.h"
+#include "platform/metadata/CarriedMetadata.h"
+#include "platform/metadata/JpegFile.h"
+#include "platform/metadata/StandInPicture.h"
+#include "platform/metadata/TiffDirectoryWriter.h"
 
 #include <QCryptographicHash>
 

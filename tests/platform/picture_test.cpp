@@ -1,6 +1,6 @@
-#include "platform/Picture.h"
+#include "platform/paint/Picture.h"
 
-#include "platform/Folders.h"
+#include "platform/system/Folders.h"
 #include "support/Folder.h"
 #include "support/Pictures.h"
 

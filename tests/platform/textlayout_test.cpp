@@ -1,5 +1,5 @@
-#include "platform/FontChoice.h"
-#include "platform/TextLayout.h"
+#include "platform/text/FontChoice.h"
+#include "platform/text/TextLayout.h"
 #include "support/Folder.h"
 #include "support/Pictures.h"
 

@@ -1,4 +1,4 @@
-#include "platform/ThumbnailCache.h"
+#include "platform/image/ThumbnailCache.h"
 #include "support/Folder.h"
 #include "support/Pictures.h"
 

@@ -1,8 +1,8 @@
-#include "platform/TiffMetadata.h"
+#include "platform/metadata/TiffMetadata.h"
 
-#include "platform/Exiv2Library.h"
+#include "platform/image/Vips.h"
+#include "platform/metadata/Exiv2Library.h"
 #include "platform/metadata_bytes.h"
-#include "platform/Vips.h"
 
 #include <gtest/gtest.h>
 #include <QBuffer>

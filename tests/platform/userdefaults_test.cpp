@@ -1,4 +1,4 @@
-#include "platform/UserDefaults.h"
+#include "platform/system/UserDefaults.h"
 
 #include <gtest/gtest.h>
 #include <QFile>

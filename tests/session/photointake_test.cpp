@@ -1,4 +1,4 @@
-#include "platform/Vips.h"
+#include "platform/image/Vips.h"
 #include "session/TSPhotoIntake.h"
 #include "support/Session.h"
 

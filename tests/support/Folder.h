@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Vips.h"
+#include "platform/image/Vips.h"
 
 #include <gtest/gtest.h>
 #include <QDir>

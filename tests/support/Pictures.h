@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/PaintLayer.h"
+#include "platform/paint/PaintLayer.h"
 
 #include <QColor>
 #include <QImage>

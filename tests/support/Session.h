@@ -1,8 +1,8 @@
 #pragma once
 
 #include "overlays/TSOverlayManager.h"
-#include "platform/LazyImage.h"
-#include "platform/UserDefaults.h"
+#include "platform/image/LazyImage.h"
+#include "platform/system/UserDefaults.h"
 #include "session/TSCacheManager.h"
 #include "session/TSDataManager.h"
 #include "session/TSDefaults.h"

@@ -1,5 +1,5 @@
-#include "platform/LazyImage.h"
-#include "platform/Picture.h"
+#include "platform/image/LazyImage.h"
+#include "platform/paint/Picture.h"
 
 #include <cstdio>
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "platform/RawPicture.h"
+#include "platform/image/RawPicture.h"
 #include "session/TSImageUtility.h"
 #include "session/TSQuartzUtility.h"
 #include "vector/TSSVGImage.h"

@@ -1,5 +1,5 @@
 #include "controls/TSStyle.h"
-#include "platform/FontChoice.h"
+#include "platform/text/FontChoice.h"
 #include "shell/TSAppDelegate.h"
 #include "shell/TSDesktopScheme.h"
 

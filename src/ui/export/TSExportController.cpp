@@ -1,7 +1,7 @@
 #include "ui/export/TSExportController.h"
 
 #include "controls/TSCheckBoxAlert.h"
-#include "platform/UserDefaults.h"
+#include "platform/system/UserDefaults.h"
 #include "session/TSDataManager.h"
 #include "session/TSLastFolder.h"
 #include "session/TSNotificationCenter.h"

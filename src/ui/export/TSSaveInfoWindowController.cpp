@@ -2,7 +2,7 @@
 
 #include "controls/TSCheckBoxAlert.h"
 #include "controls/TSTheme.h"
-#include "platform/UserDefaults.h"
+#include "platform/system/UserDefaults.h"
 #include "ui/export/TSExportReport.h"
 #include "ui/export/TSFileViewer.h"
 

@@ -1,8 +1,8 @@
 #include "ui/photos/TSThumbnailLoader.h"
 
 #include "controls/TSIcon.h"
-#include "platform/ImageFile.h"
-#include "platform/ThumbnailCache.h"
+#include "platform/image/ImageFile.h"
+#include "platform/image/ThumbnailCache.h"
 
 #include <algorithm>
 #include <QPainter>
