@@ -611,6 +611,10 @@
         <source>The file is damaged (%1).</source>
         <translation>Die Datei ist beschädigt (%1).</translation>
     </message>
+    <message id="The file is damaged: its picture cannot be read to the end.">
+        <source>The file is damaged: its picture cannot be read to the end.</source>
+        <translation>Die Datei ist beschädigt: ihr Bild lässt sich nicht bis zum Ende lesen.</translation>
+    </message>
     <message id="The file is damaged, or is not what its name says.">
         <source>The file is damaged, or is not what its name says.</source>
         <translation>Die Datei ist beschädigt oder nicht das, was ihr Name sagt.</translation>

@@ -611,6 +611,10 @@
         <source>The file is damaged (%1).</source>
         <translation>The file is damaged (%1).</translation>
     </message>
+    <message id="The file is damaged: its picture cannot be read to the end.">
+        <source>The file is damaged: its picture cannot be read to the end.</source>
+        <translation>The file is damaged: its picture cannot be read to the end.</translation>
+    </message>
     <message id="The file is damaged, or is not what its name says.">
         <source>The file is damaged, or is not what its name says.</source>
         <translation>The file is damaged, or is not what its name says.</translation>

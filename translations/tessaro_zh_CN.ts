@@ -607,6 +607,10 @@
         <source>The file is damaged (%1).</source>
         <translation>文件已损坏（%1）。</translation>
     </message>
+    <message id="The file is damaged: its picture cannot be read to the end.">
+        <source>The file is damaged: its picture cannot be read to the end.</source>
+        <translation>文件已损坏：无法完整读取其中的图片。</translation>
+    </message>
     <message id="The file is damaged, or is not what its name says.">
         <source>The file is damaged, or is not what its name says.</source>
         <translation>文件已损坏，或与其名称不符。</translation>

@@ -71,6 +71,16 @@ qsizetype rawLength(const platform::LazyImage &picture)
     return qsizetype(picture.size().width()) * picture.size().height() * (picture.hasAlpha() ? 4 : 3);
 }
 
+/// The words of other decoders than ours are kept for the whole process, where those of photos that fail at
+/// one time mix.
+QString damageOf(const platform::LazyImage &picture)
+{
+    const QString told = picture.decoderFailure();
+    platform::takeVipsError();
+    return told.isEmpty() ? qtTrId("The file is damaged: its picture cannot be read to the end.")
+                          : TSDecodingFailureText(told);
+}
+
 QStringList notes(const TSEncodedOutput &output)
 {
     QStringList list;
@@ -103,11 +113,10 @@ try {
     encode(picture, request, output);
     output.thumbnail = image.thumbnail();
     output.lacksEnd = picture.lacksEnd();
-    const QString decoderText = picture.takeDecoderMessage();
     if (isCancelled && isCancelled())
         output.reason = qtTrId("The export was cancelled.");
     else if (output.bytes.isEmpty() && !output.file && output.reason.isEmpty())
-        output.reason = TSDecodingFailureText(decoderText);
+        output.reason = damageOf(picture);
     return output;
 } catch (const std::bad_alloc &) {
     TSEncodedOutput output;

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "platform/image/TiffDirectoryWriter.h"
 #include "platform/image/TiffStructure.h"
 #include "platform/metadata/CarriedMetadata.h"
 #include "platform/metadata/JpegFile.h"
 #include "platform/metadata/StandInPicture.h"
-#include "platform/metadata/TiffDirectoryWriter.h"
 
 #include <QCryptographicHash>
 

@@ -175,10 +175,9 @@ bool LazyImage::hasAlpha() const
     return m_image && vips_image_hasalpha(m_image.get());
 }
 
-QString LazyImage::takeDecoderMessage() const
+QString LazyImage::decoderFailure() const
 {
-    const QString failure = m_report ? m_report->failure() : QString();
-    return failure.isEmpty() ? takeVipsError() : failure;
+    return m_report ? m_report->failure() : QString();
 }
 
 LazyImage LazyImage::inSRGB() const

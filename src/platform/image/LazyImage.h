@@ -45,8 +45,9 @@ public:
     QSize size() const;
     bool hasAlpha() const;
     VipsImage *vips() const { return m_image.get(); }
-    /// Once it has been computed: why that failed, in the decoder's words, or nothing.
-    QString takeDecoderMessage() const;
+    /// Once it has been computed: why that failed, in the words of a decoder that keeps them apart, or
+    /// nothing.
+    QString decoderFailure() const;
     /// Once it has been computed: whether its file ends with the picture but lacks the mark of its end.
     bool lacksEnd() const { return m_report && m_report->lacksEnd(); }
 

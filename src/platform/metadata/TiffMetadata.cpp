@@ -1,11 +1,11 @@
 #include "platform/metadata/TiffMetadata.h"
 
+#include "platform/image/TiffDirectoryWriter.h"
 #include "platform/image/TiffFile.h"
 #include "platform/image/TiffStructure.h"
 #include "platform/image/TiffTags.h"
 #include "platform/metadata/Exiv2Library.h"
 #include "platform/metadata/PhotoshopResources.h"
-#include "platform/metadata/TiffDirectoryWriter.h"
 
 #include <algorithm>
 #include <limits>

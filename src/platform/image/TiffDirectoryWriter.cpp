@@ -1,4 +1,4 @@
-#include "platform/metadata/TiffDirectoryWriter.h"
+#include "platform/image/TiffDirectoryWriter.h"
 
 #include <QtEndian>
 
