@@ -12,7 +12,7 @@
 /// thread.
 class TSCacheManager {
 public:
-    TSCacheManager() = default;
+    TSCacheManager() : m_current(this) {}
     TSCacheManager(const TSCacheManager &) = delete;
     TSCacheManager &operator=(const TSCacheManager &) = delete;
 
@@ -25,7 +25,7 @@ public:
     void clearCache();
 
 private:
-    TSCurrentInstance<TSCacheManager> m_current{this};
+    TSCurrentInstance<TSCacheManager> m_current;
     std::mutex m_lock;
     QHash<QString, std::shared_ptr<platform::Picture>> m_imageCache;
 };

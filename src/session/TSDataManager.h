@@ -23,7 +23,7 @@ class TSPhoto;
 /// thread. The list and the cache are locked inside, the list before the cache.
 class TSDataManager : public TSRequestedOutput, public TSCanvas, public TSPins {
 public:
-    TSDataManager() = default;
+    TSDataManager() : m_current(this) {}
     /// The values and the items as they are now, for one thread to work on: items of its own, no decoded
     /// pictures, no flag set.
     TSDataManager(const TSDataManager &other);
@@ -77,7 +77,7 @@ private:
     void releaseCacheOfItem(TSImageBrowserItem &item);
     void storeCache(const std::shared_ptr<TSImageBrowserItem> &item, const QImage &image);
 
-    TSCurrentInstance<TSDataManager> m_current{this};
+    TSCurrentInstance<TSDataManager> m_current;
     mutable std::recursive_mutex m_itemsLock;
     mutable std::recursive_mutex m_cacheLock;
     Items m_items;

@@ -17,6 +17,8 @@ class TSNotificationCenter : public QObject {
     Q_OBJECT
 
 public:
+    TSNotificationCenter() : m_current(this) {}
+
     /// The current instance: the one made last that still lives, or else one made at the first use.
     static TSNotificationCenter *defaultCenter();
 
@@ -46,5 +48,5 @@ Q_SIGNALS:
     void overlaysChanged(bool isDragging = false, QObject *sender = nullptr);
 
 private:
-    TSCurrentInstance<TSNotificationCenter> m_current{this};
+    TSCurrentInstance<TSNotificationCenter> m_current;
 };

@@ -15,7 +15,7 @@
 /// together with the items' lock takes the items' first.
 class TSPhotoManager {
 public:
-    TSPhotoManager() = default;
+    TSPhotoManager() : m_current(this) {}
     /// The list as it is now, with photos of its own, for one thread to work on.
     TSPhotoManager(const TSPhotoManager &other);
     TSPhotoManager &operator=(const TSPhotoManager &) = delete;
@@ -45,7 +45,7 @@ public:
     void setSelectedPhoto(qint64 index) { m_selectedPhoto = index; }
 
 private:
-    TSCurrentInstance<TSPhotoManager> m_current{this};
+    TSCurrentInstance<TSPhotoManager> m_current;
     mutable std::recursive_mutex m_lock;
     std::vector<std::shared_ptr<TSPhoto>> m_photos;
     std::atomic<qint64> m_selectedPhoto = -1;

@@ -207,10 +207,10 @@ class WindowTest(unittest.TestCase):
         self.quit()
 
     def start_long_export(self):
-        """Of some slow photos, and of a last one that is shown when all of them are in the list."""
+        """Of more slow photos than stream at once, and of a last one that is shown when all are in the list."""
         first = pictures.make_slow_photo(self.folder / "0.jpg")
-        for name in ("0.jpg", "1.jpg", "2.jpg"):
-            path = self.folder / name
+        for number in range(2 * os.cpu_count() + 4):
+            path = self.folder / f"{number}.jpg"
             if path != first:
                 path.hardlink_to(first)
             self.desktop.ask_for("ctrl+o", "Choose Photos")

@@ -380,6 +380,12 @@ TEST_F(RunTest, TheMarksOnTheScreenStayWhereTheyAre)
         expectRect(session.data.canvasFrame, 0, 0, 400, 300);
         EXPECT_EQ(session.photos.selectedPhoto(), 0);
         EXPECT_NE(TSOverlayManager::overlayManager(), &session.overlays);
+        // On the window's thread, as on any other, the session is the one it was.
+        std::async(std::launch::async, [this] {
+            EXPECT_EQ(TSDataManager::dataManager(), &session.data);
+            EXPECT_EQ(TSPhotoManager::photoManager(), &session.photos);
+            EXPECT_EQ(TSOverlayManager::overlayManager(), &session.overlays);
+        }).wait();
         EXPECT_EQ(TSDataManager::dataManager()->canvasFrame.width(), 200);
     };
     session.data.resizeWay = TSResizeWay::ByPercentage;

@@ -20,8 +20,9 @@ class Trap : public TSOverlay {
 public:
     Trap() = default;
     std::shared_ptr<TSOverlay> copy() const override { return std::shared_ptr<Trap>(new Trap(*this)); }
-    void drawIncontext(platform::PaintLayer &) override
+    void drawIncontext(platform::PaintLayer &context) override
     {
+        context.drawImage(QRectF(0, 0, 4, 4), plainImage({4, 4}, Qt::red));
         m_held->reached.release();
         m_held->letGo.acquire();
     }
