@@ -1,5 +1,6 @@
 #include "platform/text/GlyphCollector.h"
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -74,16 +75,19 @@ void GlyphCollector::add(qsizetype from, qsizetype to)
         addHangingWords(from, to);
 }
 
-/// The line has been laid out with another emoji in its place.
+/// The line has been laid out with another emoji in its place. Its marks may come from other fonts, and the
+/// toolkit tells of the fonts in any order.
 void GlyphCollector::addKeycap(const EmojiSequence &sequence)
 {
     const QList<QGlyphRun> placed = runs(sequence.from, sequence.from + sequence.length);
-    if (placed.isEmpty())
+    const auto found = std::find_if(placed.begin(), placed.end(), [](const QGlyphRun &glyphs) {
+        const auto source = GlyphSource::of(glyphs.rawFont());
+        return source && source->hasColorPictures() && !glyphs.positions().isEmpty();
+    });
+    if (found == placed.end())
         return;
-    QGlyphRun key = placed.first();
+    QGlyphRun key = *found;
     const auto source = GlyphSource::of(key.rawFont());
-    if (!source || !source->hasColorPictures() || key.positions().isEmpty())
-        return;
     const GlyphSource::Shaped shaped = source->shape(m_text, sequence.from, sequence.from + sequence.length,
                                                      false, key.rawFont().pixelSize());
     if (shaped.glyphs.empty())
