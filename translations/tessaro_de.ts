@@ -531,6 +531,10 @@
         <source>%1 is not a folder.</source>
         <translation>%1 ist kein Ordner.</translation>
     </message>
+    <message id="A file of the name %1 has come to be there.">
+        <source>A file of the name %1 has come to be there.</source>
+        <translation>Eine Datei mit dem Namen %1 ist inzwischen dort.</translation>
+    </message>
     <message id="%1 is one of the originals and is not written to.">
         <source>%1 is one of the originals and is not written to.</source>
         <translation>%1 ist eines der Originale und wird nicht überschrieben.</translation>

@@ -527,6 +527,10 @@
         <source>%1 is not a folder.</source>
         <translation>%1 不是文件夹。</translation>
     </message>
+    <message id="A file of the name %1 has come to be there.">
+        <source>A file of the name %1 has come to be there.</source>
+        <translation>此时已出现名为 %1 的文件。</translation>
+    </message>
     <message id="%1 is one of the originals and is not written to.">
         <source>%1 is one of the originals and is not written to.</source>
         <translation>%1 是原始照片之一，不会被写入。</translation>

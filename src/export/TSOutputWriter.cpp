@@ -150,19 +150,31 @@ bool TSOutputWriter::stream(const platform::LazyImage &picture, const TSOutputRe
 TSWriteResult TSOutputWriter::write(const TSEncodedOutput &output, const TSOutputRequest &request) const
 {
     TSWriteResult result;
-    result.reason = output.reason.isEmpty() ? put(output, request) : output.reason;
+    result.reason = output.reason;
+    const auto written = result.reason.isEmpty() ? file(output, request, result.reason) : nullptr;
+    if (!written)
+        return result;
+    result.reason = request.isReplacing ? written->commit() : written->commitNew(request.nextPath);
+    result.path = written->path();
     result.isWritten = result.reason.isEmpty();
-    if (result.isWritten)
-        result.note = notes(output).join(u' ');
+    result.note = notes(output).join(u' ');
+    if (written->isNameTaken())
+        result.unnamed = written;
     return result;
 }
 
-QString TSOutputWriter::put(const TSEncodedOutput &output, const TSOutputRequest &request)
+/// Complete but for its name.
+std::shared_ptr<platform::AtomicFile> TSOutputWriter::file(const TSEncodedOutput &output,
+                                                           const TSOutputRequest &request, QString &reason)
 {
     if (output.file)
-        return output.file->commit();
+        return output.file;
     const bool isPlain = !takesMetadata(request);
-    return platform::writeFileAtomically(
-        request.targetPath,
-        isPlain ? output.bytes : output.metadata.insertedInto(output.bytes, output.thumbnail));
+    const QByteArray bytes =
+        isPlain ? output.bytes : output.metadata.insertedInto(output.bytes, output.thumbnail);
+    auto file = std::make_shared<platform::AtomicFile>(request.targetPath);
+    if (file->open() && file->device().write(bytes) == bytes.size())
+        return file;
+    reason = file->failure(bytes.size());
+    return nullptr;
 }
