@@ -129,6 +129,8 @@ void TSPhotoIntakeController::addItemsFromURLs(const QStringList &paths, bool is
     syncOnMainThread([this] { m_strip.cancelCacheImages(); });
     if (m_intake.isHasAddItem && data->photoCount() > 0)
         syncOnMainThread([this, isInsert] { showNewPhotos(isInsert); });
+    else if (data->photoCount() == 0)
+        syncOnMainThread([this] { m_strip.setRemoveEnabled(false); });
     m_intake.isHasAddItem = false;
     if (!m_intake.repeatedFileNames().isEmpty())
         showAlert();
