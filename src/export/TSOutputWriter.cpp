@@ -71,13 +71,26 @@ qsizetype rawLength(const platform::LazyImage &picture)
     return qsizetype(picture.size().width()) * picture.size().height() * (picture.hasAlpha() ? 4 : 3);
 }
 
-QStringList notes(const TSEncodedOutput &output)
+/// A TIFF file has no place for any of them.
+QString noteAboutBlocks(const platform::CarriedMetadata &metadata, unsigned type)
+{
+    QStringList names = metadata.leftBehind();
+    if (type != TSFileType::JPG)
+        names += metadata.others();
+    return names.isEmpty() ? QString()
+                           : qtTrId("Metadata of other makers was left out: %1.")
+                                 .arg(names.join(QStringLiteral(", ")));
+}
+
+QStringList notes(const TSEncodedOutput &output, unsigned type)
 {
     QStringList list;
     if (output.lacksEnd)
         list.append(qtTrId("The file lacks the mark of its end, and is otherwise whole."));
     if (const QString note = output.source ? noteAbout(output.source->remainder()) : QString();
         !note.isEmpty())
+        list.append(note);
+    if (const QString note = noteAboutBlocks(output.metadata, type); !note.isEmpty())
         list.append(note);
     return list;
 }
@@ -157,7 +170,7 @@ TSWriteResult TSOutputWriter::write(const TSEncodedOutput &output, const TSOutpu
     result.reason = request.isReplacing ? written->commit() : written->commitNew(request.nextPath);
     result.path = written->path();
     result.isWritten = result.reason.isEmpty();
-    result.note = notes(output).join(u' ');
+    result.note = notes(output, request.type).join(u' ');
     if (written->isNameTaken())
         result.unnamed = written;
     return result;
