@@ -77,9 +77,9 @@ QString noteAboutBlocks(const platform::CarriedMetadata &metadata, unsigned type
     QStringList names = metadata.leftBehind();
     if (type != TSFileType::JPG)
         names += metadata.others();
-    return names.isEmpty() ? QString()
-                           : qtTrId("Metadata of other makers was left out: %1.")
-                                 .arg(names.join(QStringLiteral(", ")));
+    return names.isEmpty()
+               ? QString()
+               : qtTrId("Metadata of other makers was left out: %1.").arg(names.join(QStringLiteral(", ")));
 }
 
 QStringList notes(const TSEncodedOutput &output, unsigned type)

@@ -188,27 +188,27 @@ TEST_F(WriterTest, FurtherPicturesStayBehindAndAreNamed)
     EXPECT_TRUE(m_result.note.isEmpty());
 }
 
-/// A green photo under a red mark that covers it, with a green picture wherever one can stand: whatever looks
-/// like a picture in an output, under the metadata as well, is not green.
+/// A green photo under a mark of another colour that covers it, with a green picture wherever one can stand:
+/// whatever looks like a picture in an output, under the metadata as well, is not green.
 TEST_F(WriterTest, NoPictureInAnyOutputShowsThePhotoUnmarked)
 {
-    const QByteArray view = jpegOf(plainImage({160, 120}, Qt::green));
+    const QByteArray view = jpegOf(plainImage({160, 80}, Qt::green));
     const QByteArray bare = bytes::segment(0xE2, QByteArray("FPXR\0", 5) + view) +
                             bytes::segment(0xE1, QByteArray("FLIR\0", 5) + view);
     const QByteArray segments =
         bytes::exifSegment(bytes::Exif{.note = view, .thumbnail = view}.block()) +
         bytes::photoshopSegment(bytes::resource(0x040C, QByteArray(28, '\0') + view)) +
-        bytes::xmpSegment("<x:xmpmeta><xmpGImg:image>" + view.toBase64() + "</xmpGImg:image></x:xmpmeta>") + bare;
+        bytes::xmpSegment("<x:xmpmeta><xmpGImg:image>" + view.toBase64() + "</xmpGImg:image></x:xmpmeta>") +
+        bare;
     takeIn(session.write("a.jpg",
-                         bytes::withSegments(jpegOf(plainImage({400, 300}, Qt::green)), segments) + view));
-    addMark({0, 0, 400, 300});
+                         bytes::withSegments(jpegOf(plainImage({400, 200}, Qt::green)), segments) + view));
+    addMark({0, 0, 400, 200}, Qt::magenta);
     for (const auto &[type, name] : types) {
-        const QByteArray file = bytesOf(write(type, name, {400, 300}));
+        const QByteArray file = bytesOf(write(type, name, {400, 200}));
         int pictures = 0;
         const auto look = [&](const QImage &image) {
             pictures += !image.isNull();
-            for (int x = 0; x < image.width(); x += 10)
-                EXPECT_LT(image.pixelColor(x, image.height() / 2).green(), 100) << name.toStdString();
+            EXPECT_TRUE(extentOf(image, Qt::green, 60).isEmpty()) << name.toStdString();
         };
         for (const QByteArray &begin : {QByteArray("\xFF\xD8\xFF"), QByteArray("\x89PNG\r\n"),
                                         QByteArray("II*\0", 4), QByteArray("MM\0*", 4)})

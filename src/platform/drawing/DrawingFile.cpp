@@ -138,8 +138,7 @@ QStringList sizeOptions(const QString &path, double side, const CancelTest &isCa
 
 } // namespace
 
-QImage rasterizePdf(const QString &path, const QSizeF &box, QString *reason,
-                    const CancelTest &isCancelled)
+QImage rasterizePdf(const QString &path, const QSizeF &box, QString *reason, const CancelTest &isCancelled)
 {
     if (!isPdf(path))
         return refused(reason, qtTrId("The file is not a PDF document."));
@@ -155,8 +154,7 @@ QImage rasterizePdf(const QString &path, const QSizeF &box, QString *reason,
                    target + QStringLiteral(".png"), box, reason, isCancelled);
 }
 
-QImage rasterizeEps(const QString &path, const QSizeF &box, QString *reason,
-                    const CancelTest &isCancelled)
+QImage rasterizeEps(const QString &path, const QSizeF &box, QString *reason, const CancelTest &isCancelled)
 {
     const std::optional<QRectF> bounds = boundingBox(path);
     if (!bounds)
@@ -175,8 +173,7 @@ QImage rasterizeEps(const QString &path, const QSizeF &box, QString *reason,
                    process, target, box, reason, isCancelled);
 }
 
-QImage rasterizeSvg(const QString &path, const QSizeF &box, QString *reason,
-                    const CancelTest &isCancelled)
+QImage rasterizeSvg(const QString &path, const QSizeF &box, QString *reason, const CancelTest &isCancelled)
 {
     RestrictedProcess process;
     const QString target = process.path(QStringLiteral("pixels"));

@@ -13,8 +13,8 @@ class TiffFile;
 /// file's head and the last link bent, it begins with the page and ends with it.
 class TiffChain {
 public:
-    /// Of a file that is not changed meanwhile; the one asked for last is remembered. Any thread. There are no
-    /// pages in what cannot be read, and in files of 64-bit offsets.
+    /// Of a file that is not changed meanwhile; the one asked for last is remembered. Any thread. There are
+    /// no pages in what cannot be read, and in files of 64-bit offsets.
     static TiffChain ofFile(const QString &path);
 
     int count() const { return m_links ? int(m_links->size()) : 0; }

@@ -100,8 +100,7 @@ std::optional<TiffFile::Link> TiffFile::linkAt(quint32 position)
     const qint64 count = told.isEmpty() ? 0 : short_(told.constData());
     const qint64 at = qint64(position) + 2 + count * EntryLength;
     // Behind the last directory of a file that breaks off there may be no such link.
-    const QByteArray next =
-        count > 0 && m_device->seek(m_origin + at) ? m_device->read(4) : QByteArray();
+    const QByteArray next = count > 0 && m_device->seek(m_origin + at) ? m_device->read(4) : QByteArray();
     if (next.size() != 4)
         return {};
     return Link{at, long_(next.constData())};
