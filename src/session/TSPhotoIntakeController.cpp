@@ -129,8 +129,6 @@ void TSPhotoIntakeController::addItemsFromURLs(const QStringList &paths, bool is
     syncOnMainThread([this] { m_strip.cancelCacheImages(); });
     if (m_intake.isHasAddItem && data->photoCount() > 0)
         syncOnMainThread([this, isInsert] { showNewPhotos(isInsert); });
-    else if (data->photoCount() == 0)
-        syncOnMainThread([this] { m_strip.setRemoveEnabled(false); });
     m_intake.isHasAddItem = false;
     if (!m_intake.repeatedFileNames().isEmpty())
         showAlert();
@@ -178,6 +176,12 @@ void TSPhotoIntakeController::photoIsReady(const QString &path, const std::funct
 }
 
 void TSPhotoIntakeController::photoWasAdded(const QString &, qint64) {}
+
+void TSPhotoIntakeController::fileWasGivenUp(const QString &)
+{
+    if (TSDataManager::dataManager()->photoCount() == 0)
+        syncOnMainThread([this] { m_strip.setRemoveEnabled(false); });
+}
 
 void TSPhotoIntakeController::fileWasRefused(const QString &path, const QString &reason)
 {
