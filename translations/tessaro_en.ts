@@ -531,6 +531,14 @@
         <source>%1 is not a folder.</source>
         <translation>%1 is not a folder.</translation>
     </message>
+    <message id="A file of the name %1 has come to be there.">
+        <source>A file of the name %1 has come to be there.</source>
+        <translation>A file of the name %1 has come to be there.</translation>
+    </message>
+    <message id="Metadata of other makers was left out: %1.">
+        <source>Metadata of other makers was left out: %1.</source>
+        <translation>Metadata of other makers was left out: %1.</translation>
+    </message>
     <message id="%1 is one of the originals and is not written to.">
         <source>%1 is one of the originals and is not written to.</source>
         <translation>%1 is one of the originals and is not written to.</translation>

@@ -527,6 +527,14 @@
         <source>%1 is not a folder.</source>
         <translation>%1 不是文件夹。</translation>
     </message>
+    <message id="A file of the name %1 has come to be there.">
+        <source>A file of the name %1 has come to be there.</source>
+        <translation>此时已出现名为 %1 的文件。</translation>
+    </message>
+    <message id="Metadata of other makers was left out: %1.">
+        <source>Metadata of other makers was left out: %1.</source>
+        <translation>已略去其他厂商的元数据：%1。</translation>
+    </message>
     <message id="%1 is one of the originals and is not written to.">
         <source>%1 is one of the originals and is not written to.</source>
         <translation>%1 是原始照片之一，不会被写入。</translation>

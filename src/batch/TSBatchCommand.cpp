@@ -199,6 +199,7 @@ void TSBatchCommand::warnOfRefusals()
 void TSBatchCommand::takePhotosIn()
 {
     TSPhotoIntake intake(TSOverlayManager::overlayManager(), this);
+    intake.isCancelled = [this] { return m_run.isCancelled.load(); };
     for (const QString &path : m_options.photos) {
         if (m_run.isCancelled) {
             m_entries.push_back({path});
@@ -213,6 +214,13 @@ void TSBatchCommand::takePhotosIn()
 void TSBatchCommand::photoWasAdded(const QString &, qint64 index)
 {
     m_entries.push_back({m_givenPath, index});
+}
+
+void TSBatchCommand::fileWasGivenUp(const QString &)
+{
+    while (!m_entries.empty() && m_entries.back().source == m_givenPath && !m_entries.back().refusal)
+        m_entries.pop_back();
+    m_entries.push_back({m_givenPath});
 }
 
 void TSBatchCommand::fileWasRefused(const QString &path, const QString &reason)
@@ -237,6 +245,8 @@ bool TSBatchCommand::publishCanvas()
     TSPhotoManager *photos = TSPhotoManager::photoManager();
     bool isPublished = false;
     for (const auto &photo : photos->photos()) {
+        if (m_run.isCancelled)
+            break;
         data->GetPhotoSize(photo->index);
         if (isPublished || photo->photoSize.isEmpty())
             continue;

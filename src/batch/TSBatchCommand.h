@@ -55,6 +55,7 @@ private:
     void successfulSaveToPath(const QString &) override {}
 
     void photoWasAdded(const QString &path, qint64 index) override;
+    void fileWasGivenUp(const QString &path) override;
     void fileWasRefused(const QString &path, const QString &reason) override;
 
     const TSBatchOptions &m_options;

@@ -34,6 +34,7 @@ TSExportRun::TSExportRun(TSExportHost &host)
 void TSExportRun::savePhotos(const QString &folder, std::unique_ptr<TSRunSession> session)
 {
     m_isSkip = false;
+    m_isStopped = false;
     if (!TSIsDirectory(folder))
         return;
     m_session = std::move(session);
@@ -79,10 +80,10 @@ bool TSExportRun::isLeaving()
         m_pending.tellEnded();
         QThread::usleep(1000);
     }
-    if (!isGivenUp())
+    if (!isGivenUp() && !m_isStopped)
         return false;
     m_pending.tellAll();
-    if (isCancelled)
+    if (isCancelled || m_isStopped)
         m_host.closeProgressSheet();
     return true;
 }
@@ -151,8 +152,15 @@ TSExportRun::Step TSExportRun::saveImage(qint64 index, const TSPhoto &photo, con
         return Step::GoOn;
     }
     const TSDataManager &data = m_session->data();
-    const TSOutputRequest request{outcome.targetPath, data.type, data.quality, item.sourcePath(),
-                                  photo.propertiesDic};
+    const TSOutputRequest request{outcome.targetPath,
+                                  data.type,
+                                  data.quality,
+                                  item.sourcePath(),
+                                  photo.propertiesDic,
+                                  m_conflictChoice == TSConflictChoice::Replace,
+                                  m_conflictChoice == TSConflictChoice::Rename
+                                      ? m_targets.nextPath(data.exportNames.value(index))
+                                      : nullptr};
     stream(index, {std::move(*image), request, outcome, m_photoTimer});
     return Step::GoOn;
 }
@@ -172,7 +180,6 @@ TSExportRun::Step TSExportRun::chooseTarget(qint64 index, TSExportOutcome &outco
         return Step::Leave;
     }
     outcome.targetPath = path;
-    m_savedPaths.append(path);
     return isLeaving() ? Step::Leave : Step::GoOn;
 }
 
@@ -189,13 +196,19 @@ void TSExportRun::waitForNamesLike(const QString &name, const QString &path)
 TSExportRun::Step TSExportRun::resolveConflict(const QString &name, QString &path)
 {
     if (m_conflictChoice == TSConflictChoice::NotAsked && m_targets.isTaken(path)) {
-        m_conflictChoice = m_host.nameIsTaken(path);
-        if (m_conflictChoice == TSConflictChoice::Stop)
+        ask(path);
+        if (m_isStopped)
             return Step::Leave;
     }
     if (m_conflictChoice == TSConflictChoice::Rename)
         path = m_targets.uniquePath(name);
     return Step::GoOn;
+}
+
+void TSExportRun::ask(const QString &path)
+{
+    m_conflictChoice = m_host.nameIsTaken(path);
+    m_isStopped = m_conflictChoice == TSConflictChoice::Stop;
 }
 
 bool TSExportRun::isRefused(const QString &path, TSExportOutcome &outcome)
@@ -228,14 +241,14 @@ void TSExportRun::stream(qint64 index, Job job)
     const double memory = job.image.memory();
     const QString path = job.request.targetPath;
     const auto task = std::make_shared<std::packaged_task<TSExportOutcome()>>(
-        [this, job = std::move(job)]() mutable { return streamed(job); });
+        [this, index, job = std::move(job)]() mutable { return streamed(index, job); });
     m_pending.add(index, path, task->get_future());
     m_workers->add(memory, [task] { (*task)(); });
     m_pending.tellEnded();
 }
 
 /// On a thread of its own.
-TSExportOutcome TSExportRun::streamed(Job &job)
+TSExportOutcome TSExportRun::streamed(qint64 index, Job &job)
 {
     TSEncodedOutput encoded;
     {
@@ -253,6 +266,12 @@ TSExportOutcome TSExportRun::streamed(Job &job)
     const TSWriteResult result = m_writer.write(encoded, job.request);
     outcome.status = result.isWritten ? Status::Written : Status::Failed;
     outcome.reason = result.reason;
+    if (result.isWritten)
+        outcome.targetPath = result.path;
+    if (result.unnamed) {
+        const std::lock_guard lock(m_unnamedLock);
+        m_unnamed[index] = result.unnamed;
+    }
     if (!result.note.isEmpty())
         outcome.warnings.append(result.note);
     outcome.milliseconds = job.timer.elapsed();
@@ -265,8 +284,44 @@ void TSExportRun::report(qint64 index, bool isNamed, TSExportOutcome outcome)
     m_pending.add(index, isNamed, outcome);
 }
 
-void TSExportRun::tell(qint64 index, bool isNamed, const TSExportOutcome &outcome)
+TSExportRun::File TSExportRun::takeUnnamed(qint64 index)
 {
+    const std::lock_guard lock(m_unnamedLock);
+    const auto found = m_unnamed.extract(index);
+    return found ? found.mapped() : nullptr;
+}
+
+/// The name was free when the photo was begun. Another program may have taken it since, and what to do about
+/// that is for the user to say like the rest.
+void TSExportRun::nameLate(qint64 index, platform::AtomicFile &file, TSExportOutcome &outcome)
+{
+    if (m_conflictChoice == TSConflictChoice::NotAsked)
+        ask(file.path());
+    outcome.reason = take(index, file);
+    outcome.targetPath = file.path();
+    if (outcome.reason.isEmpty())
+        outcome.status = Status::Written;
+    else if (m_isStopped)
+        outcome.status = Status::Skipped;
+}
+
+QString TSExportRun::take(qint64 index, platform::AtomicFile &file)
+{
+    if (m_conflictChoice == TSConflictChoice::Rename)
+        return file.commitNew(m_targets.nextPath(m_session->data().exportNames.value(index)));
+    if (m_isStopped)
+        return qtTrId("The run was stopped: %1 is there already.").arg(file.path());
+    if (m_targets.isOriginal(file.path()))
+        return qtTrId("%1 is one of the originals and is not written to.").arg(file.path());
+    return file.commit();
+}
+
+void TSExportRun::tell(qint64 index, bool isNamed, TSExportOutcome outcome)
+{
+    if (const auto file = takeUnnamed(index))
+        nameLate(index, *file, outcome);
+    if (isNamed)
+        m_savedPaths.append(outcome.targetPath);
     if (outcome.status == Status::Written)
         ++m_savedCount;
     if (isNamed)
@@ -278,6 +333,6 @@ void TSExportRun::finish()
 {
     m_pending.tellAll();
     m_host.closeProgressSheet();
-    if (m_savedCount > 0)
+    if (m_savedCount > 0 && !m_isStopped)
         m_host.successfulSaveToPath(m_savedPaths.constFirst());
 }

@@ -9,7 +9,9 @@
 #include "export/TSRunSession.h"
 
 #include <atomic>
+#include <map>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <QElapsedTimer>
 #include <QStringList>
@@ -53,6 +55,7 @@ public:
 
 private:
     enum class Step { GoOn, Leave };
+    using File = std::shared_ptr<platform::AtomicFile>;
     /// A photo that is ready to stream.
     struct Job {
         TSOutputImage image;
@@ -71,13 +74,17 @@ private:
     Step chooseTarget(qint64 index, TSExportOutcome &outcome);
     void waitForNamesLike(const QString &name, const QString &path);
     Step resolveConflict(const QString &name, QString &path);
+    void ask(const QString &path);
     bool isRefused(const QString &path, TSExportOutcome &outcome);
     void addWarnings(const TSOutputImage &image, TSExportOutcome &outcome) const;
     bool isTooBig(const TSPhoto &photo) const;
     void stream(qint64 index, Job job);
-    TSExportOutcome streamed(Job &job);
+    TSExportOutcome streamed(qint64 index, Job &job);
+    File takeUnnamed(qint64 index);
+    void nameLate(qint64 index, platform::AtomicFile &file, TSExportOutcome &outcome);
+    QString take(qint64 index, platform::AtomicFile &file);
     void report(qint64 index, bool isNamed, TSExportOutcome outcome);
-    void tell(qint64 index, bool isNamed, const TSExportOutcome &outcome);
+    void tell(qint64 index, bool isNamed, TSExportOutcome outcome);
     void finish();
 
     TSExportHost &m_host;
@@ -87,9 +94,13 @@ private:
     QStringList m_savedPaths;
     qint64 m_savedCount = 0;
     bool m_isSkip = false;
+    bool m_isStopped = false;
     int m_conflictChoice = TSConflictChoice::NotAsked;
     QElapsedTimer m_photoTimer;
     std::unique_ptr<TSRunSession> m_session;
+    std::mutex m_unnamedLock;
+    /// Complete but for their names, which others took meanwhile; by photo.
+    std::map<qint64, File> m_unnamed;
     TSPendingOutcomes m_pending;
     std::optional<TSExportWorkers> m_workers;
 };

@@ -37,9 +37,16 @@ QString TSExportTargets::uniquePath(const QString &name) const
                         [this](const QString &path) { return isTaken(path); });
 }
 
+std::function<QString()> TSExportTargets::nextPath(const QString &name) const
+{
+    return [folder = m_folder, name, extension = TSDataManager::dataManager()->exportFormat] {
+        return TSUniquePath(folder, name, extension);
+    };
+}
+
 bool TSExportTargets::isTaken(const QString &path) const
 {
-    return m_planned.contains(path) || TSFileExists(path);
+    return m_planned.contains(path) || TSIsNameTaken(path);
 }
 
 bool TSExportTargets::isOriginal(const QString &path) const

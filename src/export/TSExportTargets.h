@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <QSet>
 #include <QStringList>
 
@@ -13,6 +14,8 @@ public:
     QString path(const QString &name) const;
     /// The path under that name with the first number that is free, or without one.
     QString uniquePath(const QString &name) const;
+    /// Answers, on any thread and each time anew, the first of these that is free on the disk.
+    std::function<QString()> nextPath(const QString &name) const;
     bool isTaken(const QString &path) const;
     /// Whether writing to the path would write to an original, under whatever name.
     bool isOriginal(const QString &path) const;

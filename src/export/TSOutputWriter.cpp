@@ -81,13 +81,26 @@ QString damageOf(const platform::LazyImage &picture)
                           : TSDecodingFailureText(told);
 }
 
-QStringList notes(const TSEncodedOutput &output)
+/// A TIFF file has no place for any of them.
+QString noteAboutBlocks(const platform::CarriedMetadata &metadata, unsigned type)
+{
+    QStringList names = metadata.leftBehind();
+    if (type != TSFileType::JPG)
+        names += metadata.others();
+    return names.isEmpty()
+               ? QString()
+               : qtTrId("Metadata of other makers was left out: %1.").arg(names.join(QStringLiteral(", ")));
+}
+
+QStringList notes(const TSEncodedOutput &output, unsigned type)
 {
     QStringList list;
     if (output.lacksEnd)
         list.append(qtTrId("The file lacks the mark of its end, and is otherwise whole."));
     if (const QString note = output.source ? noteAbout(output.source->remainder()) : QString();
         !note.isEmpty())
+        list.append(note);
+    if (const QString note = noteAboutBlocks(output.metadata, type); !note.isEmpty())
         list.append(note);
     return list;
 }
@@ -159,19 +172,31 @@ bool TSOutputWriter::stream(const platform::LazyImage &picture, const TSOutputRe
 TSWriteResult TSOutputWriter::write(const TSEncodedOutput &output, const TSOutputRequest &request) const
 {
     TSWriteResult result;
-    result.reason = output.reason.isEmpty() ? put(output, request) : output.reason;
+    result.reason = output.reason;
+    const auto written = result.reason.isEmpty() ? file(output, request, result.reason) : nullptr;
+    if (!written)
+        return result;
+    result.reason = request.isReplacing ? written->commit() : written->commitNew(request.nextPath);
+    result.path = written->path();
     result.isWritten = result.reason.isEmpty();
-    if (result.isWritten)
-        result.note = notes(output).join(u' ');
+    result.note = notes(output, request.type).join(u' ');
+    if (written->isNameTaken())
+        result.unnamed = written;
     return result;
 }
 
-QString TSOutputWriter::put(const TSEncodedOutput &output, const TSOutputRequest &request)
+/// Complete but for its name.
+std::shared_ptr<platform::AtomicFile> TSOutputWriter::file(const TSEncodedOutput &output,
+                                                           const TSOutputRequest &request, QString &reason)
 {
     if (output.file)
-        return output.file->commit();
+        return output.file;
     const bool isPlain = !takesMetadata(request);
-    return platform::writeFileAtomically(
-        request.targetPath,
-        isPlain ? output.bytes : output.metadata.insertedInto(output.bytes, output.thumbnail));
+    const QByteArray bytes =
+        isPlain ? output.bytes : output.metadata.insertedInto(output.bytes, output.thumbnail);
+    auto file = std::make_shared<platform::AtomicFile>(request.targetPath);
+    if (file->open() && file->device().write(bytes) == bytes.size())
+        return file;
+    reason = file->failure(bytes.size());
+    return nullptr;
 }

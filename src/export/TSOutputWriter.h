@@ -20,6 +20,10 @@ struct TSOutputRequest {
     double quality = 0;
     QString sourcePath;
     QVariantMap propertiesDic;
+    /// What stands under the target's name by the time the file is complete is replaced; else it is left
+    /// alone, and the file takes the name that `nextPath` answers.
+    bool isReplacing = true;
+    std::function<QString()> nextPath = {};
 };
 
 /// A picture that has been through its encoder, and what of its source goes along with it.
@@ -44,6 +48,10 @@ struct TSWriteResult {
     QString reason;
     /// What of a written photo did not go along, or nothing.
     QString note;
+    /// The name that the file has taken.
+    QString path;
+    /// The file, complete but for its name, where that was taken and is not to be replaced.
+    std::shared_ptr<platform::AtomicFile> unnamed;
 };
 
 /// Encodes an output, puts the photo's metadata in, and writes the file whole or not at all. Any
@@ -62,5 +70,6 @@ private:
                 TSEncodedOutput &output) const;
     bool stream(const platform::LazyImage &picture, const TSOutputRequest &request,
                 const platform::CarriedMetadata &metadata, platform::AtomicFile &file) const;
-    static QString put(const TSEncodedOutput &output, const TSOutputRequest &request);
+    static std::shared_ptr<platform::AtomicFile> file(const TSEncodedOutput &output,
+                                                      const TSOutputRequest &request, QString &reason);
 };

@@ -26,7 +26,7 @@ QSizeF storedSize(const TSImageBrowserItem &item)
 /// A frame's size is that of its picture held upright, unlike that of a plain file.
 QSizeF frameSizeOfFile(const TSImageBrowserItem &item)
 {
-    if (TSIsVectorType(TSImageType(item.resourePath)))
+    if (!item.frameSize.isEmpty() || TSIsVectorType(TSImageType(item.resourePath)))
         return item.frameSize;
     const auto header = platform::readImageHeader(item.sourcePath(), nullptr, int(item.frameCount));
     if (!header)
@@ -61,6 +61,14 @@ std::shared_ptr<TSImageBrowserItem> TSDataManager::itemAtIndex(qint64 index) con
 {
     const Lock lock(m_itemsLock);
     return index >= 0 && index < qint64(m_items.size()) ? m_items[size_t(index)] : nullptr;
+}
+
+qint64 TSDataManager::indexOfItem(const std::shared_ptr<TSImageBrowserItem> &item) const
+{
+    const Lock lock(m_itemsLock);
+    // Those that joined last are asked for most.
+    const auto found = std::find(m_items.rbegin(), m_items.rend(), item);
+    return m_items.rend() - found - 1;
 }
 
 void TSDataManager::addItem(std::shared_ptr<TSImageBrowserItem> item)

@@ -43,6 +43,8 @@ public:
     // not change while the item is in the list.
     qint64 photoCount() const;
     std::shared_ptr<TSImageBrowserItem> itemAtIndex(qint64 index) const;
+    /// −1 for one that is not in the list.
+    qint64 indexOfItem(const std::shared_ptr<TSImageBrowserItem> &item) const;
     /// Appends, gives the item its title, and puts a picture that it brings into the cache.
     void addItem(std::shared_ptr<TSImageBrowserItem> item);
     /// Only inserts: no title and no cache entry.

@@ -50,6 +50,11 @@ bool TSFileExists(const QString &path)
     return !path.isEmpty() && QFileInfo::exists(path);
 }
 
+bool TSIsNameTaken(const QString &path)
+{
+    return TSFileExists(path) || QFileInfo(path).isSymLink();
+}
+
 bool TSIsDirectory(const QString &path)
 {
     return !path.isEmpty() && QFileInfo(path).isDir();
@@ -192,7 +197,7 @@ QString TSNextNumberedPath(const QString &folder, const QString &name, const QSt
         ++digits;
     const QString stem = name.chopped(digits);
     QString candidate = QStringLiteral("%1/%2.%3").arg(folder, name, extension);
-    for (int number = 1; TSFileExists(candidate); ++number)
+    for (int number = 1; TSIsNameTaken(candidate); ++number)
         candidate = QStringLiteral("%1/%2.%3")
                         .arg(folder, numbered(stem, number, std::max(1, int(digits))), extension);
     return candidate;

@@ -21,6 +21,8 @@ constexpr unsigned PDF = 11;
 /// Tests on paths. An empty path gives false. They read the disk and nothing else, and may run on any thread.
 
 bool TSFileExists(const QString &path);
+/// Whether something stands under that path, be it a link that leads nowhere.
+bool TSIsNameTaken(const QString &path);
 bool TSIsDirectory(const QString &path);
 /// True for what is no folder, and for a folder with nothing below it.
 bool TSIsEmptyDirectory(const QString &path);
@@ -51,7 +53,7 @@ QString TSFileSizeText(const QString &path);
 /// "folder/name.extension", or the first of "folder/name_001.extension" and so on that is free: on the disk,
 /// unless the caller knows of more.
 QString TSUniquePath(const QString &folder, const QString &name, const QString &extension,
-                     const std::function<bool(const QString &path)> &isTaken = TSFileExists);
+                     const std::function<bool(const QString &path)> &isTaken = TSIsNameTaken);
 /// A free name found by counting on the name's trailing digits, of which up to three give the width.
 QString TSNextNumberedPath(const QString &folder, const QString &name, const QString &extension);
 

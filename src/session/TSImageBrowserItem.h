@@ -34,7 +34,7 @@ public:
     quint64 frameCount = 0;
     /// The file itself. Frames of one file share it, and the duplicate check goes by it.
     QString resourePath;
-    /// Pixels of a rasterised vector picture.
+    /// Pixels of a rasterised vector picture, or of a frame held upright as its file has it.
     QSizeF frameSize{0, 0};
     QVariantMap propertiesDic;
     QVariantMap fileAttributesDic;

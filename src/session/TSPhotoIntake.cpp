@@ -84,7 +84,7 @@ void TSPhotoIntake::addItemsWithURLs(const QStringList &paths, bool isInsert)
 {
     clearRepeatedFileNames();
     for (const QString &path : paths) {
-        if (processCanceled)
+        if (isGivenUp())
             return;
         addFile(path, isInsert);
     }
@@ -140,15 +140,19 @@ void TSPhotoIntake::addFrames(const QString &path, bool isInsert)
     const int frames = reader.frameCount();
     if (frames == 0)
         return refuse(path, reasonForRefusal(path));
-    // A cancelled intake finishes its file: half of the frames could not be completed later, since the file
-    // would count as a duplicate.
+    reader.isCancelled = [this] { return isGivenUp(); };
+    std::vector<Item> added;
     for (int frame = 0; frame < frames; ++frame) {
         const Item item = newItem(path);
         item->path = framePath(path, frame, frames);
         item->repType = IKImageBrowserCGImageRepresentationType;
         item->frameCount = quint64(frame);
         item->cgimage = reader.nextThumbnail(frameSide);
+        item->frameSize = reader.frameSize();
+        if (isGivenUp())
+            return takeBack(path, added);
         performAddItem(item, isInsert);
+        added.push_back(item);
     }
 }
 
@@ -162,15 +166,16 @@ void TSPhotoIntake::addDrawing(const QString &path, unsigned type, bool isInsert
     const QSizeF box(frameSide, frameSide);
     const Item item = newItem(path);
     QString reason;
+    const platform::CancelTest test = [this] { return isGivenUp(); };
     item->repType = IKImageBrowserCGImageRepresentationType;
     if (type == TSImageTypeCode::SVG)
-        item->cgimage = platform::rasterizeSvg(path, box, &reason);
+        item->cgimage = platform::rasterizeSvg(path, box, &reason, test);
     else if (type == TSImageTypeCode::EPS)
-        item->cgimage = platform::rasterizeEps(path, box, &reason);
+        item->cgimage = platform::rasterizeEps(path, box, &reason, test);
     else
-        item->cgimage = platform::rasterizePdf(path, box, &reason);
+        item->cgimage = platform::rasterizePdf(path, box, &reason, test);
     if (item->cgimage.isNull())
-        return refuse(path, reason);
+        return isGivenUp() ? takeBack(path, {}) : refuse(path, reason);
     item->frameSize = item->cgimage.size();
     performAddItem(item, isInsert);
 }
@@ -217,6 +222,30 @@ void TSPhotoIntake::insertItem(const Item &item)
     photos->insertDraggingPhoto(newPhoto(*item, position), position);
     if (m_delegate)
         m_delegate->photoWasAdded(item->resourePath, position);
+}
+
+/// From wherever they stand by now: after a cancel the user has the list again.
+void TSPhotoIntake::takeBack(const QString &path, const std::vector<Item> &items)
+{
+    const auto leave = [&] {
+        TSDataManager *data = TSDataManager::dataManager();
+        TSPhotoManager *photos = TSPhotoManager::photoManager();
+        const auto selected = photos->photoAtIndex(photos->selectedPhoto());
+        for (auto item = items.rbegin(); item != items.rend(); ++item) {
+            const qint64 index = data->indexOfItem(*item);
+            data->removePhotoAtIndex(index);
+            if (m_rows && index >= 0)
+                m_rows->photoWasRemoved(index);
+            if (index >= 0 && index < insertAtIndex)
+                --insertAtIndex;
+        }
+        if (selected && photos->photoAtIndex(selected->index) == selected)
+            photos->setSelectedPhoto(selected->index);
+    };
+    if (!m_delegate)
+        return leave();
+    m_delegate->photoIsReady(path, leave);
+    m_delegate->fileWasGivenUp(path);
 }
 
 void TSPhotoIntake::refuse(const QString &path, const QString &reason)

@@ -8,6 +8,7 @@
 #include <memory>
 #include <mutex>
 #include <QStringList>
+#include <vector>
 
 /// What an intake tells while it runs, on the thread it runs on but for what is told from within `join`.
 class TSPhotoIntakeDelegate {
@@ -19,6 +20,8 @@ public:
     virtual void photoWasAdded(const QString &path, qint64 index) = 0;
     /// A file that gave no photo, with a sentence that says why.
     virtual void fileWasRefused(const QString &path, const QString &reason) = 0;
+    /// A file that a cancel met half way; those of its photos that had been added are out again.
+    virtual void fileWasGivenUp(const QString &) {}
 };
 
 /// The way of files into the photo list. One intake at a time, on any one thread; the flag that cancels it
@@ -32,8 +35,11 @@ public:
 
     /// Where the next photos go when they are inserted and not appended; moves on behind each of them.
     qint64 insertAtIndex = 0;
-    /// Looked at before each file; a file that is begun is finished.
+    /// Looked at all along. A file that is met half way is given up whole, since the rest of its frames could
+    /// not be added later.
     std::atomic<bool> processCanceled = false;
+    /// Another's word for the same, asked on the thread of the intake.
+    std::function<bool()> isCancelled;
     /// Whether a file was handled that is not a repeated one, be it that it was passed over as no picture.
     bool isHasAddItem = false;
 
@@ -47,6 +53,7 @@ public:
 private:
     using Item = std::shared_ptr<TSImageBrowserItem>;
 
+    bool isGivenUp() const { return processCanceled || (isCancelled && isCancelled()); }
     void addFile(const QString &path, bool isInsert);
     bool isAddItem(const QString &path);
     void addFrames(const QString &path, bool isInsert);
@@ -55,6 +62,7 @@ private:
     void performAddItem(const Item &item, bool isInsert);
     void addItem(const Item &item);
     void insertItem(const Item &item);
+    void takeBack(const QString &path, const std::vector<Item> &items);
     void refuse(const QString &path, const QString &reason);
 
     TSPhotoListObserver *m_rows;

@@ -177,6 +177,12 @@ void TSPhotoIntakeController::photoIsReady(const QString &path, const std::funct
 
 void TSPhotoIntakeController::photoWasAdded(const QString &, qint64) {}
 
+void TSPhotoIntakeController::fileWasGivenUp(const QString &)
+{
+    if (TSDataManager::dataManager()->photoCount() == 0)
+        syncOnMainThread([this] { m_strip.setRemoveEnabled(false); });
+}
+
 void TSPhotoIntakeController::fileWasRefused(const QString &path, const QString &reason)
 {
     syncOnMainThread([&] { m_host.fileWasRefused(path, reason); });

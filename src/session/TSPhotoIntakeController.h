@@ -58,6 +58,7 @@ private:
 
     void photoIsReady(const QString &path, const std::function<void()> &join) override;
     void photoWasAdded(const QString &path, qint64 index) override;
+    void fileWasGivenUp(const QString &path) override;
     void fileWasRefused(const QString &path, const QString &reason) override;
 
     TSPhotoStrip &m_strip;

@@ -149,6 +149,67 @@ TEST_F(RunTest, ATakenNameIsAskedAboutOnce)
     }
 }
 
+TEST_F(RunTest, ALinkUnderANameIsANameInUse)
+{
+    const QString outside = session.write("outside", "outside");
+    addPhotos({"a"});
+    session.data.exportNames = words("x");
+    const std::tuple<QString, int, const char *> cases[] = {
+        {session.path("nowhere"), TSConflictChoice::Rename, "x_001.jpg"},
+        {session.path("nowhere"), TSConflictChoice::Replace, "x.jpg"},
+        {outside, TSConflictChoice::Replace, "x.jpg"},
+        {session.path("a.png"), TSConflictChoice::Replace, nullptr}};
+    const QByteArray original = bytesOf(session.path("a.png"));
+    for (const auto &[target, answer, written] : cases) {
+        startAnew();
+        ASSERT_TRUE(QFile::link(target, out + "/x.jpg"));
+        ScriptedHost asked;
+        asked.answer = answer;
+        TSExportRun(asked).savePhotos(out);
+        EXPECT_EQ(asked.heard.value(0), QStringLiteral("taken:x.jpg"));
+        EXPECT_EQ(asked.outcomes[0].status, written ? Status::Written : Status::Failed);
+        if (written) {
+            EXPECT_FALSE(QFileInfo(out + u'/' + QLatin1String(written)).isSymLink());
+            EXPECT_EQ(QImage(out + u'/' + QLatin1String(written)).size(), QSize(40, 30));
+        }
+    }
+    EXPECT_FALSE(QFile::exists(session.path("nowhere")));
+    EXPECT_EQ(bytesOf(outside), "outside");
+    EXPECT_EQ(bytesOf(session.path("a.png")), original);
+}
+
+/// As two programs would: neither knows of the other's files until they are there.
+TEST_F(RunTest, TwoRunsIntoOneFolderLoseNothing)
+{
+    addPhotos({"a"});
+    const int photos = 60;
+    for (int i = 1; i < photos; ++i)
+        takeIn(session.writePng(QStringLiteral("%1.png").arg(i), plainImage({40, 30})));
+    for (const int answer : {TSConflictChoice::Rename, TSConflictChoice::Stop}) {
+        startAnew();
+        ScriptedHost hosts[2];
+        std::vector<std::thread> threads;
+        for (ScriptedHost &each : hosts) {
+            each.answer = answer;
+            threads.emplace_back([&each, this, taken = TSRunSession::snapshot()]() mutable {
+                TSExportRun(each).savePhotos(out, std::move(taken));
+            });
+        }
+        for (std::thread &thread : threads)
+            thread.join();
+        QStringList told;
+        for (const ScriptedHost &each : hosts) {
+            EXPECT_LE(each.heard.filter("taken:").size(), 1);
+            for (const TSExportOutcome &outcome : each.outcomes)
+                if (outcome.status == Status::Written)
+                    told.append(QFileInfo(outcome.targetPath).fileName());
+        }
+        told.sort();
+        EXPECT_EQ(told, files());
+        EXPECT_EQ(told.size(), answer == TSConflictChoice::Rename ? 2 * photos : files().size());
+    }
+}
+
 TEST_F(RunTest, PhotosAreToldOfInOrderOnceTheirFilesAreThere)
 {
     addPhotos({"a", "b", "c", "d"});

@@ -188,6 +188,42 @@ TEST_F(WriterTest, FurtherPicturesStayBehindAndAreNamed)
     EXPECT_TRUE(m_result.note.isEmpty());
 }
 
+/// A green photo under a mark of another colour that covers it, with a green picture wherever one can stand:
+/// whatever looks like a picture in an output, under the metadata as well, is not green.
+TEST_F(WriterTest, NoPictureInAnyOutputShowsThePhotoUnmarked)
+{
+    const QByteArray view = jpegOf(plainImage({160, 80}, Qt::green));
+    const QByteArray bare = bytes::segment(0xE2, QByteArray("FPXR\0", 5) + view) +
+                            bytes::segment(0xE1, QByteArray("FLIR\0", 5) + view);
+    const QByteArray segments =
+        bytes::exifSegment(bytes::Exif{.note = view, .thumbnail = view}.block()) +
+        bytes::photoshopSegment(bytes::resource(0x040C, QByteArray(28, '\0') + view)) +
+        bytes::xmpSegment("<x:xmpmeta><xmpGImg:image>" + view.toBase64() + "</xmpGImg:image></x:xmpmeta>") +
+        bare;
+    takeIn(session.write("a.jpg",
+                         bytes::withSegments(jpegOf(plainImage({400, 200}, Qt::green)), segments) + view));
+    addMark({0, 0, 400, 200}, Qt::magenta);
+    for (const auto &[type, name] : types) {
+        const QByteArray file = bytesOf(write(type, name, {400, 200}));
+        int pictures = 0;
+        const auto look = [&](const QImage &image) {
+            pictures += !image.isNull();
+            EXPECT_TRUE(extentOf(image, Qt::green, 60).isEmpty()) << name.toStdString();
+        };
+        for (const QByteArray &begin : {QByteArray("\xFF\xD8\xFF"), QByteArray("\x89PNG\r\n"),
+                                        QByteArray("II*\0", 4), QByteArray("MM\0*", 4)})
+            for (qsizetype at = file.indexOf(begin); at >= 0; at = file.indexOf(begin, at + 1))
+                look(QImage::fromData(file.sliced(at)));
+        for (qsizetype at = file.indexOf("/9j/"); at >= 0; at = file.indexOf("/9j/", at + 1))
+            look(QImage::fromData(QByteArray::fromBase64(file.sliced(at))));
+        look(platform::LazyImage::open(session.path(name), {}).inSRGB().toImage());
+        EXPECT_FALSE(file.contains(QByteArray("\0\xFF\0", 3).repeated(40))) << "bare pixels";
+        EXPECT_GE(pictures, type == TSFileType::JPG ? 3 : 1) << name.toStdString();
+        const bool isNamed = m_result.note.contains("FLIR") && m_result.note.contains("FPXR");
+        EXPECT_EQ(isNamed, type == TSFileType::JPG || type == TSFileType::TIFF);
+    }
+}
+
 TEST_F(WriterTest, TheDensityOfAPhotoStaysWhateverItsSize)
 {
     constexpr qsizetype units = 13;

@@ -70,8 +70,8 @@ TEST(CarriedMetadata, CarriesBlocksInTheirOrderWithExifFirst)
     const QByteArray photoshop = bytes::photoshopSegment(bytes::resource(0x03ED, "resolution"));
     const QByteArray strange = bytes::exifSegment("no header");
     const QByteArray others = bytes::segment(0xE0, "JFXX") + bytes::segment(0xE2, QByteArray("MPF\0", 4)) +
-                              bytes::segment(0xE2, "ICC_PROFILE") + bytes::segment(0xE1, "unknown") +
-                              bytes::segment(0xED, "unknown") + bytes::segment(0xFE, "comment");
+                              bytes::segment(0xE2, "ICC_PROFILE") + bytes::segment(0xEE, "Adobe") +
+                              bytes::segment(0xFE, "comment");
     EXPECT_EQ(inserted(xmp + others + photoshop + exif), exif + xmp + photoshop);
     EXPECT_EQ(inserted(strange), strange);
     const QByteArray old = bytes::segment(0xED, "Adobe_Photoshop2.5:" + bytes::resource(0x03ED, "old"));
@@ -81,6 +81,23 @@ TEST(CarriedMetadata, CarriesBlocksInTheirOrderWithExifFirst)
     EXPECT_EQ(carried(exif).insertedInto("no JPEG", mark()), "no JPEG");
     EXPECT_EQ(carried(exif).insertedInto("\xFF\xD8\xFF\xD9", mark()), "\xFF\xD8" + exif + "\xFF\xD9")
         << "no JFIF";
+}
+
+/// Of makers that nobody knows all of, so that what may show the photo stays behind.
+TEST(CarriedMetadata, OtherBlocksGoAlongUnlessTheyMayHoldAPicture)
+{
+    const QByteArray meta = bytes::segment(0xE3, QByteArray("Meta\0\0", 6) + bytes::Exif{}.block());
+    const QByteArray unknown = bytes::segment(0xE1, "unknown") + bytes::segment(0xED, "unknown");
+    EXPECT_EQ(inserted(unknown + meta), unknown + meta);
+    EXPECT_EQ(carried(unknown + meta).others().size(), 3);
+    const QByteArray view = bytes::jpeg({40, 30}, Qt::green);
+    const QByteArray halves = bytes::segment(0xE2, QByteArray("FPXR\0", 5) + view.first(200)) +
+                              bytes::segment(0xE2, QByteArray("FPXR\0", 5) + view.sliced(200));
+    const QByteArray raw = bytes::segment(0xE1, QByteArray("FLIR\0", 5) + QByteArray(9000, 'x'));
+    const QByteArray inside =
+        bytes::segment(0xE3, QByteArray("Meta\0\0", 6) + bytes::Exif{.thumbnail = view}.block());
+    EXPECT_EQ(inserted(raw + halves + inside + unknown), unknown);
+    EXPECT_EQ(carried(raw + halves + inside).leftBehind().join(u','), "APP1 FLIR,APP2 FPXR,APP3 Meta");
 }
 
 TEST(CarriedMetadata, ReplacesThumbnailsInPlace)

@@ -112,16 +112,19 @@ TEST(TiffMetadata, WritesXmpAndIptcAsReadersExpectThem)
         bytes::xmpSegment(packet("xmp:Rating=\"4\" xmpNote:HasExtendedXMP=\"" + guid + "\""));
     const QByteArray extended = bytes::xmpExtension(guid, extension);
     const QByteArray caption = QByteArray("\x1C\x02\x78") + bytes::bigEndian(5, 2) + "hello";
+    const QByteArray keyword = QByteArray("\x1C\x02\x19") + bytes::bigEndian(5, 2) + "world";
     const QByteArray photoshop =
-        bytes::photoshopSegment(bytes::resource(0x03ED, "first") + bytes::resource(0x0404, caption));
+        bytes::photoshopSegment(bytes::resource(0x03ED, "first") + bytes::resource(0x0404, caption)) +
+        bytes::photoshopSegment(bytes::resource(0x0404, keyword));
     const QByteArray plain = tiff();
     const QByteArray file = written(plain, carried(main + extended + photoshop));
-    EXPECT_EQ(field(file, "iptc-data"), caption.leftJustified(12, '\0'));
+    EXPECT_EQ(field(file, "iptc-data"), caption + keyword);
     const auto image = opened(file);
     EXPECT_EQ(image->xmpData()["Xmp.xmp.Rating"].toString(), "4");
     EXPECT_EQ(image->xmpData()["Xmp.xmp.Label"].toString(), "red");
     EXPECT_EQ(image->xmpData().findKey(Exiv2::XmpKey("Xmp.xmpNote.HasExtendedXMP")), image->xmpData().end());
     EXPECT_EQ(image->iptcData()["Iptc.Application2.Caption"].toString(), "hello");
+    EXPECT_EQ(image->iptcData()["Iptc.Application2.Keywords"].toString(), "world");
     EXPECT_EQ(field(written(plain, carried(main)), "xmp-data"), main.sliced(4 + 29))
         << "a single packet stays as it is";
     EXPECT_EQ(pixels(written(plain, CarriedMetadata())), pixels(plain));

@@ -1,8 +1,10 @@
+#include "platform/image/ImageFile.h"
 #include "platform/image/Vips.h"
 #include "session/TSPhotoIntake.h"
 #include "support/Session.h"
 
 #include <functional>
+#include <QElapsedTimer>
 
 namespace {
 
@@ -130,12 +132,60 @@ TEST_F(PhotoIntakeTest, FramesThatDifferKeepWhatIsTheirs)
     EXPECT_EQ(session.data.itemAtIndex(1)->cgimage.size(), QSize(10, 20));
 }
 
-TEST_F(PhotoIntakeTest, CancellingFinishesTheFileAtHand)
+/// Half of the frames could not be completed later: the file would be one that is in the list already.
+TEST_F(PhotoIntakeTest, CancellingGivesUpTheFileAtHand)
 {
-    m_notes.onAdded = [this] { m_intake.processCanceled = true; };
-    m_intake.addItemsWithURLs({writePages(QStringLiteral("a.tif"), 3), writePhoto(QStringLiteral("b.jpg"))},
-                              false);
-    EXPECT_EQ(session.data.photoCount(), 3);
+    const auto overlay = std::make_shared<TSOverlay>();
+    session.overlays.addOverlay(overlay);
+    session.addPhotos(2);
+    for (int row = 0; row < 2; ++row)
+        overlay->appendRow();
+    session.photos.setSelectedPhoto(1);
+    const QString pages = writePages(QStringLiteral("a.tif"), 3);
+    for (const bool isInsert : {false, true}) {
+        m_intake.insertAtIndex = 1;
+        m_notes.onAdded = [this] { m_intake.processCanceled = true; };
+        m_intake.addItemsWithURLs({pages, writePhoto(QStringLiteral("b.jpg"))}, isInsert);
+        EXPECT_EQ(session.data.photoCount(), 2);
+        EXPECT_EQ(session.photos.photoCount(), 2);
+        EXPECT_EQ(overlay->rows().count(), 2);
+        EXPECT_EQ(session.photos.selectedPhoto(), 1);
+        EXPECT_EQ(m_intake.insertAtIndex, 1);
+    }
+    m_notes.onAdded = {};
+    m_intake.processCanceled = false;
+    m_intake.addItemsWithURLs({pages}, false);
+    EXPECT_EQ(session.data.photoCount(), 5);
+}
+
+/// A program in a drawing would go on for ten seconds.
+TEST_F(PhotoIntakeTest, ACancelEndsADrawing)
+{
+    QElapsedTimer clock;
+    clock.start();
+    m_intake.isCancelled = [&clock] { return clock.elapsed() > 300; };
+    m_intake.addItemsWithURLs({session.write(QStringLiteral("loop.eps"), eps("{} loop"))}, false);
+    EXPECT_LT(clock.elapsed(), 1500);
+    EXPECT_EQ(m_notes.refused, QStringList());
+}
+
+/// What opening a page costs must not grow with the pages before it and behind it.
+TEST_F(PhotoIntakeTest, ManyPagesTakeTheirShare)
+{
+    const auto millisecondsFor = [this](int pages) {
+        const QString path = writePages(QStringLiteral("%1.tif").arg(pages), pages);
+        QElapsedTimer clock;
+        clock.start();
+        m_intake.addItemsWithURLs({path}, false);
+        for (qint64 i = 0; i < session.data.photoCount(); ++i) {
+            session.data.GetPhotoSize(i);
+            platform::readImageHeader(path, nullptr, int(i) % pages);
+        }
+        session.data.removeAllPhotos();
+        return double(clock.elapsed());
+    };
+    millisecondsFor(50);
+    EXPECT_LT(millisecondsFor(1500) / millisecondsFor(150), 25);
 }
 
 TEST_F(PhotoIntakeTest, DrawingsTouchABoxOf2000)

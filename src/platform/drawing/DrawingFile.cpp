@@ -92,9 +92,9 @@ QImage pictureWithin(const QString &path, const QSizeF &box)
 
 /// Runs an interpreter that is to leave a picture in its folder.
 QImage drawnBy(const QString &program, const QStringList &arguments, RestrictedProcess &process,
-               const QString &target, const QSizeF &box, QString *reason)
+               const QString &target, const QSizeF &box, QString *reason, const CancelTest &isCancelled)
 {
-    const RestrictedProcess::Outcome outcome = process.run(program, arguments);
+    const RestrictedProcess::Outcome outcome = process.run(program, arguments, isCancelled);
     const bool isDone = outcome == RestrictedProcess::Outcome::Done;
     const QImage image = isDone ? pictureWithin(target, withMargin(box)) : QImage();
     return image.isNull() ? refused(reason, reasonOf(outcome, process.messages(), damaged)) : image;
@@ -109,10 +109,10 @@ bool isPdf(const QString &path)
 }
 
 /// As the interpreter would turn it; nothing when it does not tell.
-std::optional<QSizeF> sizeOfFirstPage(const QString &path)
+std::optional<QSizeF> sizeOfFirstPage(const QString &path, const CancelTest &isCancelled)
 {
     RestrictedProcess process;
-    process.run(QStringLiteral("pdfinfo"), {QFileInfo(path).absoluteFilePath()});
+    process.run(QStringLiteral("pdfinfo"), {QFileInfo(path).absoluteFilePath()}, isCancelled);
     const QString told = QString::fromLatin1(process.messages());
     static const QRegularExpression size(QStringLiteral("Page size:\\s+([0-9.]+) x ([0-9.]+) pts"));
     static const QRegularExpression quarterTurn(QStringLiteral("Page rot:\\s+(90|270)\\b"));
@@ -125,10 +125,10 @@ std::optional<QSizeF> sizeOfFirstPage(const QString &path)
 
 /// Sides of whole pixels, which the page is stretched to by less than one: a last row that it covers in part
 /// shows as an edge.
-QStringList sizeOptions(const QString &path, double side)
+QStringList sizeOptions(const QString &path, double side, const CancelTest &isCancelled)
 {
     const auto pixels = [](double length) { return QString::number(std::max(1, qRound(length))); };
-    const std::optional<QSizeF> page = sizeOfFirstPage(path);
+    const std::optional<QSizeF> page = sizeOfFirstPage(path, isCancelled);
     if (!page)
         return {QStringLiteral("-scale-to"), pixels(side)};
     const QSizeF size = *page * scaleToTouch(*page, {side, side});
@@ -138,7 +138,7 @@ QStringList sizeOptions(const QString &path, double side)
 
 } // namespace
 
-QImage rasterizePdf(const QString &path, const QSizeF &box, QString *reason)
+QImage rasterizePdf(const QString &path, const QSizeF &box, QString *reason, const CancelTest &isCancelled)
 {
     if (!isPdf(path))
         return refused(reason, qtTrId("The file is not a PDF document."));
@@ -148,13 +148,13 @@ QImage rasterizePdf(const QString &path, const QSizeF &box, QString *reason)
         QStringList{QStringLiteral("-png"), QStringLiteral("-singlefile"), QStringLiteral("-cropbox"),
                     QStringLiteral("-f"),   QStringLiteral("1"),           QStringLiteral("-l"),
                     QStringLiteral("1")} +
-        sizeOptions(path, std::floor(std::min(box.width(), box.height())));
+        sizeOptions(path, std::floor(std::min(box.width(), box.height())), isCancelled);
     return drawnBy(QStringLiteral("pdftocairo"),
                    options + QStringList{QFileInfo(path).absoluteFilePath(), target}, process,
-                   target + QStringLiteral(".png"), box, reason);
+                   target + QStringLiteral(".png"), box, reason, isCancelled);
 }
 
-QImage rasterizeEps(const QString &path, const QSizeF &box, QString *reason)
+QImage rasterizeEps(const QString &path, const QSizeF &box, QString *reason, const CancelTest &isCancelled)
 {
     const std::optional<QRectF> bounds = boundingBox(path);
     if (!bounds)
@@ -170,16 +170,17 @@ QImage rasterizeEps(const QString &path, const QSizeF &box, QString *reason)
                     QStringLiteral("-sDEVICE=pngalpha"), QStringLiteral("-r%1").arg(resolution, 0, 'f', 4),
                     QStringLiteral("-sOutputFile=") + target, QStringLiteral("-f"),
                     QFileInfo(path).absoluteFilePath()},
-                   process, target, box, reason);
+                   process, target, box, reason, isCancelled);
 }
 
-QImage rasterizeSvg(const QString &path, const QSizeF &box, QString *reason)
+QImage rasterizeSvg(const QString &path, const QSizeF &box, QString *reason, const CancelTest &isCancelled)
 {
     RestrictedProcess process;
     const QString target = process.path(QStringLiteral("pixels"));
     const RestrictedProcess::Outcome outcome = process.run(
         helperProgram(QStringLiteral("tessaro-svg")),
-        {QFileInfo(path).absoluteFilePath(), QString::number(std::min(box.width(), box.height())), target});
+        {QFileInfo(path).absoluteFilePath(), QString::number(std::min(box.width(), box.height())), target},
+        isCancelled);
     const bool isDone = outcome == RestrictedProcess::Outcome::Done;
     const QImage image = isDone ? readRawPicture(target, withMargin(box)) : QImage();
     return image.isNull()

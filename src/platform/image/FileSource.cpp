@@ -1,34 +1,52 @@
 #include "platform/image/FileSource.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <QFile>
 
 namespace platform {
 
 namespace {
 
-gint64 readFile(VipsSourceCustom *, void *buffer, gint64 length, void *file)
+struct PatchedFile : QFile {
+    using QFile::QFile;
+    std::vector<FilePatch> patches;
+};
+
+gint64 readFile(VipsSourceCustom *, void *buffer, gint64 length, void *data)
 {
-    return static_cast<QFile *>(file)->read(static_cast<char *>(buffer), length);
+    auto *file = static_cast<PatchedFile *>(data);
+    const gint64 begin = file->pos();
+    const gint64 end = begin + file->read(static_cast<char *>(buffer), length);
+    for (const FilePatch &patch : file->patches) {
+        const gint64 from = std::max<gint64>(begin, patch.position);
+        const gint64 to = std::min<gint64>(end, patch.position + patch.bytes.size());
+        if (from < to)
+            std::memcpy(static_cast<char *>(buffer) + (from - begin),
+                        patch.bytes.constData() + (from - patch.position), size_t(to - from));
+    }
+    return end - begin;
 }
 
 gint64 seekFile(VipsSourceCustom *, gint64 offset, int whence, void *data)
 {
-    auto *file = static_cast<QFile *>(data);
+    auto *file = static_cast<PatchedFile *>(data);
     const gint64 from = whence == SEEK_CUR ? file->pos() : whence == SEEK_END ? file->size() : 0;
     return file->seek(from + offset) ? file->pos() : -1;
 }
 
 void deleteFile(void *file)
 {
-    delete static_cast<QFile *>(file);
+    delete static_cast<PatchedFile *>(file);
 }
 
 } // namespace
 
-VipsSourcePtr openFileSource(const QString &path)
+VipsSourcePtr openFileSource(const QString &path, std::vector<FilePatch> patches)
 {
-    auto file = std::make_unique<QFile>(path);
+    auto file = std::make_unique<PatchedFile>(path);
+    file->patches = std::move(patches);
     if (!file->open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         vips_error("Tessaro", "%s", qUtf8Printable(file->errorString()));
         return nullptr;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <QByteArray>
 #include <QString>
 #include <vips/vips.h>
 
@@ -11,8 +12,14 @@ struct VipsSourceUnref {
 };
 using VipsSourcePtr = std::unique_ptr<VipsSource, VipsSourceUnref>;
 
+/// Bytes that stand in for some of a file.
+struct FilePatch {
+    qint64 position;
+    QByteArray bytes;
+};
+
 /// A file for libvips to read. It would map one that it opened itself, for some formats, and a mapped file
 /// that shrinks meanwhile, or whose card is pulled, ends the process. Nothing when it cannot be opened.
-VipsSourcePtr openFileSource(const QString &path);
+VipsSourcePtr openFileSource(const QString &path, std::vector<FilePatch> patches = {});
 
 } // namespace platform

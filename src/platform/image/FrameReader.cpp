@@ -3,48 +3,14 @@
 #include "platform/image/ImageSource.h"
 #include "platform/image/LazyImage.h"
 #include "platform/image/Thumbnail.h"
-#include "platform/image/TiffFile.h"
-#include "platform/image/TiffTags.h"
 
 #include <algorithm>
 #include <cstring>
-#include <iterator>
-#include <optional>
 #include <QFile>
-#include <vector>
 
 namespace platform {
 
 namespace {
-
-/// What a picture of several frames takes from the first of them, though each may have its own.
-bool isTakenFromFirst(quint16 tag)
-{
-    return tag == tifftag::Orientation || tag == tifftag::Palette || tag == tifftag::ColorProfile;
-}
-
-std::vector<TiffFile::Entry> valuesTakenFromFirst(const TiffFile::Directory &directory)
-{
-    std::vector<TiffFile::Entry> values;
-    std::copy_if(directory.entries.begin(), directory.entries.end(), std::back_inserter(values),
-                 [](const TiffFile::Entry &entry) { return isTakenFromFirst(entry.tag); });
-    return values;
-}
-
-bool areTiffFramesAlike(const QString &path, int frames)
-{
-    std::optional<TiffFile> tiff = TiffFile::open(path);
-    auto directory = tiff ? tiff->directoryAt(tiff->firstDirectory()) : std::nullopt;
-    if (!directory)
-        return false;
-    const std::vector<TiffFile::Entry> first = valuesTakenFromFirst(*directory);
-    for (int frame = 1; frame < frames; ++frame) {
-        directory = tiff->directoryAt(directory->next);
-        if (!directory || valuesTakenFromFirst(*directory) != first)
-            return false;
-    }
-    return true;
-}
 
 bool isGif(const QString &path)
 {
@@ -81,13 +47,15 @@ FrameReader::FrameReader(const QString &path) : m_path(path)
     if (m_frameCount == 1)
         return;
     m_isAnimation = isGif(path);
+    // Pages can be opened one by one; within a roll, libvips would walk through all before at each.
     const bool isSmall = qint64(VIPS_IMAGE_SIZEOF_IMAGE(first.get())) <= largestFrame;
-    if (isSmall && (m_isAnimation || areTiffFramesAlike(path, m_frameCount)))
+    if (isSmall && m_isAnimation)
         m_framesAtOnce = std::max(1, VIPS_MAX_COORD / first->Ysize);
 }
 
 QImage FrameReader::nextThumbnail(int longestSide)
 {
+    m_frameSize = {};
     VipsImagePtr frame = nextFrame();
     const QImage image = frame ? thumbnail(std::move(frame), longestSide) : QImage();
     if (image.isNull())
@@ -151,9 +119,13 @@ void FrameReader::giveRollUp()
 QImage FrameReader::thumbnail(VipsImagePtr frame, int longestSide)
 {
     const int orientation = vips_image_get_orientation(frame.get());
+    const bool turnsSideways = vips_image_get_orientation_swap(frame.get()) != 0;
     const LazyImage picture = LazyImage::fromVips(std::move(frame)).inSRGB();
     const QSize size = thumbnailSize(picture.size(), longestSide);
-    return upright(picture.resized(size).toImage(), orientation);
+    const QImage image = upright(picture.resized(size).toImage(isCancelled), orientation);
+    if (!image.isNull())
+        m_frameSize = turnsSideways ? picture.size().transposed() : picture.size();
+    return image;
 }
 
 } // namespace platform

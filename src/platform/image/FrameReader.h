@@ -2,6 +2,7 @@
 
 #include "platform/image/Vips.h"
 
+#include <functional>
 #include <QImage>
 #include <QString>
 
@@ -19,6 +20,10 @@ public:
     /// The next frame, upright, reduced to the longest side in pixels where it is larger. Null for one that
     /// is damaged, for all that follow it in an animation, and behind the last.
     QImage nextThumbnail(int longestSide);
+    /// Of the frame that was answered last, upright and not reduced; empty where there was none.
+    QSize frameSize() const { return m_frameSize; }
+    /// Once it answers true, the frame at hand is given up. Asked again and again.
+    std::function<bool()> isCancelled;
 
 private:
     struct RegionUnref {
@@ -29,13 +34,14 @@ private:
     void openRoll();
     VipsImagePtr frameOfRoll();
     void giveRollUp();
-    static QImage thumbnail(VipsImagePtr frame, int longestSide);
+    QImage thumbnail(VipsImagePtr frame, int longestSide);
 
     QString m_path;
     int m_frameCount = 0;
     bool m_isAnimation = false;
     bool m_isBroken = false;
     int m_next = 0;
+    QSize m_frameSize;
     int m_framesAtOnce = 1;
     /// Some frames, one below the other.
     std::unique_ptr<VipsRegion, RegionUnref> m_roll;

@@ -3,6 +3,7 @@
 #include "platform/image/BitmapFile.h"
 #include "platform/image/FileSource.h"
 #include "platform/image/JpegStrips.h"
+#include "platform/image/TiffChain.h"
 #include "platform/image/TiffFile.h"
 
 #include <array>
@@ -134,6 +135,20 @@ VipsImagePtr openBitmap(const QString &path, DecodingReport &report)
     return bitmap;
 }
 
+VipsImagePtr openPages(const QString &path, const TiffChain &chain, int first, int pages,
+                       DecodingReport &report)
+{
+    if (first + pages > chain.count()) {
+        vips_error("Tessaro", "no such page");
+        return nullptr;
+    }
+    const VipsSourcePtr source = openFileSource(path, chain.only(first, pages));
+    VipsImagePtr image = source ? load(source.get(), "n=" + QByteArray::number(pages)) : nullptr;
+    if (image)
+        vips_image_set_int(image.get(), VIPS_META_N_PAGES, chain.count());
+    return withinReach(std::move(image), false, report);
+}
+
 VipsImagePtr openFrames(const QString &path, VipsSource *source, Format format, int frame, int frames,
                         DecodingReport &report)
 {
@@ -141,6 +156,9 @@ VipsImagePtr openFrames(const QString &path, VipsSource *source, Format format, 
         refuse(report, qtTrId("The file holds the raw data of a camera's sensor, which is not read yet."));
         return nullptr;
     }
+    const TiffChain chain = format == Format::Tiff ? TiffChain::ofFile(path) : TiffChain();
+    if (chain.count() > 1)
+        return openPages(path, chain, frame, frames, report);
     const QByteArray options = "page=" + QByteArray::number(frame) + ",n=" + QByteArray::number(frames);
     return withinReach(load(source, options), format == Format::Gif, report);
 }

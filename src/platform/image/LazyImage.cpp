@@ -259,21 +259,22 @@ bool LazyImage::encodeTiff(QIODevice &to, const CancelTest &isCancelled, bool ke
     return image && vips_tiffsave_target(image.get(), openDeviceTarget(to).get(), nullptr) == 0;
 }
 
-QImage LazyImage::toImage() const
+QImage LazyImage::toImage(const CancelTest &isCancelled) const
 {
     if (!m_image)
         return {};
     size_t length = 0;
-    void *memory = vips_image_write_to_memory(m_image.get(), &length);
+    const VipsImagePtr image = cancellable(m_image.get(), isCancelled);
+    void *memory = image ? vips_image_write_to_memory(image.get(), &length) : nullptr;
     if (!memory)
         return {};
     const bool alpha = hasAlpha();
     const QImage view(static_cast<const uchar *>(memory), m_image->Xsize, m_image->Ysize,
                       qsizetype(m_image->Xsize) * m_image->Bands,
                       alpha ? QImage::Format_RGBA8888 : QImage::Format_RGB888);
-    QImage image = view.convertToFormat(alpha ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    QImage result = view.convertToFormat(alpha ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
     g_free(memory);
-    return image;
+    return result;
 }
 
 } // namespace platform

@@ -72,7 +72,7 @@ public:
     bool encodePng(QIODevice &to, const CancelTest &isCancelled) const;
     bool encodeTiff(QIODevice &to, const CancelTest &isCancelled, bool keepsDensity) const;
     /// The whole picture in memory, RGB32 or premultiplied ARGB32.
-    QImage toImage() const;
+    QImage toImage(const CancelTest &isCancelled = {}) const;
 
 private:
     explicit LazyImage(VipsImagePtr image, std::shared_ptr<DecodingReport> report = {})

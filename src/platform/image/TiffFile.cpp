@@ -94,6 +94,18 @@ std::optional<TiffFile::Directory> TiffFile::directoryAt(quint32 position)
     return directory;
 }
 
+std::optional<TiffFile::Link> TiffFile::linkAt(quint32 position)
+{
+    const QByteArray told = position < HeaderLength ? QByteArray() : bytesAt(position, 2);
+    const qint64 count = told.isEmpty() ? 0 : short_(told.constData());
+    const qint64 at = qint64(position) + 2 + count * EntryLength;
+    // Behind the last directory of a file that breaks off there may be no such link.
+    const QByteArray next = count > 0 && m_device->seek(m_origin + at) ? m_device->read(4) : QByteArray();
+    if (next.size() != 4)
+        return {};
+    return Link{at, long_(next.constData())};
+}
+
 std::vector<quint32> TiffFile::numbers(const Directory &directory, quint16 tag) const
 {
     constexpr quint16 directoryType = 13;

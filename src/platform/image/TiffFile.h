@@ -37,6 +37,12 @@ public:
     bool isBigEndian() const { return m_bigEndian; }
     quint32 firstDirectory() const { return m_firstDirectory; }
     std::optional<Directory> directoryAt(quint32 position);
+    /// Where a directory tells of the next one, and what; without its entries being read.
+    struct Link {
+        qint64 position;
+        quint32 next;
+    };
+    std::optional<Link> linkAt(quint32 position);
     /// None for a directory without that entry, or for values that are no whole numbers.
     std::vector<quint32> numbers(const Directory &directory, quint16 tag) const;
     quint32 number(const Directory &directory, quint16 tag, quint32 fallback) const;

@@ -5,6 +5,7 @@
 #include "platform/metadata/MetadataBlobs.h"
 
 #include <algorithm>
+#include <map>
 #include <QCryptographicHash>
 #include <QtEndian>
 
@@ -47,8 +48,10 @@ Piece cut(QByteArrayView payload, qsizetype headerLength, size_t order)
     return {order, payload.first(headerLength).toByteArray(), payload.sliced(headerLength).toByteArray()};
 }
 
-quint8 markerOf(Kind kind)
+quint8 markerOf(Kind kind, const Piece &piece)
 {
+    if (piece.marker)
+        return piece.marker;
     return kind == Kind::Photoshop ? jpeg::App13 : jpeg::App1;
 }
 
@@ -98,7 +101,7 @@ QByteArray serialized(const std::vector<MetadataBlock> &blocks)
         for (const auto &[kind, piece] : fitting(whole)) {
             const quint16 length = quint16(2 + piece.header.size() + piece.body.size());
             result += '\xFF';
-            result += char(markerOf(kind));
+            result += char(markerOf(kind, piece));
             result += char(length >> 8);
             result += char(length & 0xFF);
             result += piece.header;
@@ -106,6 +109,40 @@ QByteArray serialized(const std::vector<MetadataBlock> &blocks)
         }
     }
     return result;
+}
+
+/// What belongs to the picture as it is coded, or to those behind it, and is made anew or has gone.
+bool isOfThePicture(const JpegSegment &segment)
+{
+    constexpr quint8 app14 = 0xEE;
+    constexpr quint8 app15 = 0xEF;
+    if (segment.marker <= jpeg::App0 || segment.marker > app15 || segment.marker == app14)
+        return true;
+    static constexpr const char *names[] = {"ICC_PROFILE", "MPF", "urn:iso:std:iso:ts:21496"};
+    return segment.marker == jpeg::App2 &&
+           std::any_of(std::begin(names), std::end(names),
+                       [&](const char *name) { return segment.payload.startsWith(name); });
+}
+
+/// What a block calls itself, up to the first byte that is no letter of a name.
+QByteArray nameOf(const JpegSegment &segment)
+{
+    constexpr qsizetype longest = 32;
+    qsizetype length = 0;
+    while (length < std::min(longest, segment.payload.size()) && segment.payload[length] > ' ' &&
+           segment.payload[length] <= '~')
+        ++length;
+    const QByteArray place = "APP" + QByteArray::number(segment.marker - jpeg::App0);
+    return length < 2 ? place : place + ' ' + segment.payload.first(length).toByteArray();
+}
+
+/// Nobody knows all that makers write. Pictures in a file format are found; a small view in bare pixels has
+/// more bytes than these. Of one that goes on in another segment, the beginning alone is in one piece.
+bool mayShowThePhoto(const MetadataBlock &block)
+{
+    constexpr qsizetype harmless = 8192;
+    const QByteArray data = block.data();
+    return data.size() > harmless || data.contains("\xFF\xD8\xFF") || !findExifPictures(data).empty();
 }
 
 /// Behind the start marker and the JFIF header; 0 for what is no JPEG.
@@ -138,13 +175,18 @@ CarriedMetadata CarriedMetadata::ofJpeg(const JpegFile &file)
 {
     CarriedMetadata result;
     size_t order = 0;
+    std::map<QByteArray, MetadataBlock> others;
     for (const JpegSegment &segment : file.segments()) {
-        if (segment.marker == jpeg::App1)
-            result.takeApp1(segment.payload, order);
-        else if (segment.marker == jpeg::App13)
-            result.takeApp13(segment.payload, order);
         ++order;
+        if ((segment.marker == jpeg::App1 && result.takeApp1(segment.payload, order)) ||
+            (segment.marker == jpeg::App13 && result.takeApp13(segment.payload, order)) ||
+            isOfThePicture(segment))
+            continue;
+        others.try_emplace(nameOf(segment), Kind::Other)
+            .first->second.add({order, {}, segment.payload.toByteArray(), segment.marker});
     }
+    for (const auto &[name, block] : others)
+        result.takeOther(name, block);
     result.findPictures();
     return result;
 }
@@ -166,7 +208,7 @@ void CarriedMetadata::takeBlob(Kind kind, QByteArrayView header, const QByteArra
     m_blocks.emplace_back(kind).add({m_blocks.size(), header.toByteArray(), body});
 }
 
-void CarriedMetadata::takeApp1(QByteArrayView payload, size_t order)
+bool CarriedMetadata::takeApp1(QByteArrayView payload, size_t order)
 {
     if (payload.startsWith(ExifIdentifier) && payload.size() > ExifHeader.size())
         takeExif(payload, order);
@@ -174,6 +216,28 @@ void CarriedMetadata::takeApp1(QByteArrayView payload, size_t order)
         m_blocks.emplace_back(Kind::Xmp).add(cut(payload, XmpHeader.size(), order));
     else if (payload.startsWith(ExtendedXmpIdentifier) && payload.size() >= ExtendedXmpHeaderLength)
         takeExtendedXmp(payload, order);
+    else
+        return false;
+    return true;
+}
+
+void CarriedMetadata::takeOther(const QByteArray &name, const MetadataBlock &block)
+{
+    if (mayShowThePhoto(block))
+        m_leftBehind.append(QString::fromLatin1(name));
+    else
+        m_blocks.push_back(block);
+}
+
+QStringList CarriedMetadata::others() const
+{
+    QStringList names;
+    for (const MetadataBlock &block : m_blocks) {
+        const Piece &piece = block.pieces().front();
+        if (block.kind() == Kind::Other)
+            names.append(QString::fromLatin1(nameOf({piece.marker, piece.body})));
+    }
+    return names;
 }
 
 void CarriedMetadata::takeExif(QByteArrayView payload, size_t order)
@@ -195,14 +259,16 @@ void CarriedMetadata::takeExtendedXmp(QByteArrayView payload, size_t order)
     block.add(piece);
 }
 
-void CarriedMetadata::takeApp13(QByteArrayView payload, size_t order)
+bool CarriedMetadata::takeApp13(QByteArrayView payload, size_t order)
 {
     for (const QByteArrayView header : {PhotoshopHeader, OldPhotoshopHeader}) {
         if (!payload.startsWith(header))
             continue;
         MetadataBlock *before = lastOf(Kind::Photoshop);
         (before ? *before : m_blocks.emplace_back(Kind::Photoshop)).add(cut(payload, header.size(), order));
+        return true;
     }
+    return false;
 }
 
 MetadataBlock *CarriedMetadata::lastOf(Kind kind)

@@ -2,7 +2,7 @@
 
 #include "platform/metadata/MetadataBlock.h"
 
-#include <QString>
+#include <QStringList>
 
 namespace platform {
 
@@ -36,11 +36,17 @@ public:
     std::vector<QByteArray> xmpPackets() const;
     QByteArray photoshopResources() const;
 
+    /// By their names, the blocks of other makers that stay behind since they hold a picture, or may; and
+    /// those that go along, where there are segments for them.
+    const QStringList &leftBehind() const { return m_leftBehind; }
+    QStringList others() const;
+
 private:
-    void takeApp1(QByteArrayView payload, size_t order);
+    bool takeApp1(QByteArrayView payload, size_t order);
+    void takeOther(const QByteArray &name, const MetadataBlock &block);
     void takeExif(QByteArrayView payload, size_t order);
     void takeExtendedXmp(QByteArrayView payload, size_t order);
-    void takeApp13(QByteArrayView payload, size_t order);
+    bool takeApp13(QByteArrayView payload, size_t order);
     void takeBlob(MetadataBlock::Kind kind, QByteArrayView header, const QByteArray &body);
     MetadataBlock *lastOf(MetadataBlock::Kind kind);
     void findPictures();
@@ -50,6 +56,7 @@ private:
     std::vector<QByteArray> blanked(MetadataBlock::Kind kind) const;
 
     std::vector<MetadataBlock> m_blocks;
+    QStringList m_leftBehind;
 };
 
 } // namespace platform

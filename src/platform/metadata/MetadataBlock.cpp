@@ -16,6 +16,7 @@ std::vector<PictureSlot> picturesIn(MetadataBlock::Kind kind, QByteArrayView dat
         return findPhotoshopPictures(data);
     case MetadataBlock::Kind::Xmp:
     case MetadataBlock::Kind::ExtendedXmp:
+    case MetadataBlock::Kind::Other:
         break;
     }
     return findBase64Pictures(data);

@@ -12,13 +12,15 @@ namespace platform {
 /// its part. Filling its pictures changes no length, so that it goes back into segments of the same lengths.
 class MetadataBlock {
 public:
-    enum class Kind { Exif, Xmp, ExtendedXmp, Photoshop };
+    enum class Kind { Exif, Xmp, ExtendedXmp, Photoshop, Other };
 
     struct Piece {
         /// The place of the segment among those of its source.
         size_t order = 0;
         QByteArray header;
         QByteArray body;
+        /// Of a segment that has none by its kind.
+        quint8 marker = 0;
     };
 
     explicit MetadataBlock(Kind kind) : m_kind(kind) {}

@@ -108,11 +108,13 @@ try {
 
 QByteArray iptcRecord(const QByteArray &resources)
 {
+    // Some programs add a record of their own beside another's; they go on in one another.
+    QByteArray record;
     for (const PhotoshopResource &resource : readPhotoshopResources(resources)) {
         if (resource.id == PhotoshopResource::Iptc)
-            return resources.sliced(resource.begin, resource.length);
+            record += resources.sliced(resource.begin, resource.length);
     }
-    return {};
+    return record;
 }
 
 void addBytes(TiffDirectoryWriter &writer, quint16 tag, const QByteArray &value)

@@ -45,7 +45,8 @@ void limitThisProcess()
 
 } // namespace
 
-RestrictedProcess::Outcome RestrictedProcess::run(const QString &program, const QStringList &arguments)
+RestrictedProcess::Outcome RestrictedProcess::run(const QString &program, const QStringList &arguments,
+                                                  const std::function<bool()> &isCancelled)
 {
     if (!m_folder.isValid())
         return Outcome::Failed;
@@ -59,10 +60,13 @@ RestrictedProcess::Outcome RestrictedProcess::run(const QString &program, const 
     constexpr int patience = 100;
     while (!process.waitForFinished(patience) && process.state() != QProcess::NotRunning) {
         const bool isLate = clock.elapsed() > timeLimit;
-        if (!isLate && !isFolderFull())
+        const bool isGivenUp = isCancelled && isCancelled();
+        if (!isGivenUp && !isLate && !isFolderFull())
             continue;
         process.kill();
         process.waitForFinished();
+        if (isGivenUp)
+            return Outcome::Cancelled;
         return isLate ? Outcome::TookTooLong : Outcome::TookTooMuchSpace;
     }
     const bool isDone = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;

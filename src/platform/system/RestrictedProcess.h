@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <QStringList>
 #include <QTemporaryDir>
 
@@ -11,11 +12,13 @@ namespace platform {
 /// shell, and a folder of its own for whatever it writes, which is gone with this object. Any thread; blocks.
 class RestrictedProcess {
 public:
-    enum class Outcome { Done, Failed, TookTooLong, TookTooMuchSpace, IsMissing };
+    enum class Outcome { Done, Failed, TookTooLong, TookTooMuchSpace, IsMissing, Cancelled };
 
     /// A file in the folder.
     QString path(const QString &name) const { return m_folder.filePath(name); }
-    Outcome run(const QString &program, const QStringList &arguments);
+    /// Ended as soon as the test, asked again and again, answers true.
+    Outcome run(const QString &program, const QStringList &arguments,
+                const std::function<bool()> &isCancelled = {});
     /// What it wrote to its outputs, as far as a reason may stand in it.
     QByteArray messages() const;
 
