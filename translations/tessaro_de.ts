@@ -619,6 +619,10 @@
         <source>The file is damaged (%1).</source>
         <translation>Die Datei ist beschädigt (%1).</translation>
     </message>
+    <message id="The file holds %1 frames, of which only the first %2 can be read.">
+        <source>The file holds %1 frames, of which only the first %2 can be read.</source>
+        <translation>Die Datei enthält %1 Bilder, von denen nur die ersten %2 gelesen werden können.</translation>
+    </message>
     <message id="The file is damaged: its picture cannot be read to the end.">
         <source>The file is damaged: its picture cannot be read to the end.</source>
         <translation>Die Datei ist beschädigt: ihr Bild lässt sich nicht bis zum Ende lesen.</translation>

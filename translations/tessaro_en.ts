@@ -619,6 +619,10 @@
         <source>The file is damaged (%1).</source>
         <translation>The file is damaged (%1).</translation>
     </message>
+    <message id="The file holds %1 frames, of which only the first %2 can be read.">
+        <source>The file holds %1 frames, of which only the first %2 can be read.</source>
+        <translation>The file holds %1 frames, of which only the first %2 can be read.</translation>
+    </message>
     <message id="The file is damaged: its picture cannot be read to the end.">
         <source>The file is damaged: its picture cannot be read to the end.</source>
         <translation>The file is damaged: its picture cannot be read to the end.</translation>

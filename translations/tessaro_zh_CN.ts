@@ -615,6 +615,10 @@
         <source>The file is damaged (%1).</source>
         <translation>文件已损坏（%1）。</translation>
     </message>
+    <message id="The file holds %1 frames, of which only the first %2 can be read.">
+        <source>The file holds %1 frames, of which only the first %2 can be read.</source>
+        <translation>文件包含 %1 帧，只能读取前 %2 帧。</translation>
+    </message>
     <message id="The file is damaged: its picture cannot be read to the end.">
         <source>The file is damaged: its picture cannot be read to the end.</source>
         <translation>文件已损坏：无法完整读取其中的图片。</translation>

@@ -2,6 +2,7 @@
 
 #include "platform/drawing/DrawingFile.h"
 #include "platform/image/FrameReader.h"
+#include "platform/image/GifFrames.h"
 #include "platform/image/ImageFile.h"
 #include "platform/metadata/ImageProperties.h"
 #include "session/TSDataManager.h"
@@ -154,6 +155,10 @@ void TSPhotoIntake::addFrames(const QString &path, bool isInsert)
         performAddItem(item, isInsert);
         added.push_back(item);
     }
+    if (const int all = platform::gifFrameCount(path); all > frames)
+        refuse(
+            path,
+            qtTrId("The file holds %1 frames, of which only the first %2 can be read.").arg(all).arg(frames));
 }
 
 /// A drawing is made a picture once, as large as the preview's box allows; its outputs are stretched from

@@ -120,6 +120,22 @@ TEST_F(PhotoIntakeTest, EveryFrameIsAPhoto)
     }
 }
 
+/// A decoder reads some thousands, and does not tell that there are more.
+TEST_F(PhotoIntakeTest, FramesThatCannotBeReadAreCounted)
+{
+    const QByteArray two = bytesOf(writePages(QStringLiteral("two.gif"), 2));
+    const qsizetype colors = two[10] & 0x80 ? 3 * (2 << (two[10] & 7)) : 0;
+    const qsizetype begin = 13 + colors;
+    const QByteArray frames = two.mid(begin, two.size() - begin - 1).repeated(2500);
+    m_intake.addItemsWithURLs({session.write(QStringLiteral("many.gif"), two.first(begin) + frames + ';')},
+                              false);
+    EXPECT_EQ(
+        m_notes.refused,
+        QStringList(QStringLiteral("The file holds 5000 frames, of which only the first %1 can be read.")
+                        .arg(session.data.photoCount())));
+    EXPECT_GT(session.data.photoCount(), 1000);
+}
+
 TEST_F(PhotoIntakeTest, FramesThatDifferKeepWhatIsTheirs)
 {
     QByteArray bytes = bytesOf(writePages(QStringLiteral("two.tif"), 2));
