@@ -206,7 +206,7 @@ TEST_F(WriterTest, NoPictureInAnyOutputShowsThePhotoUnmarked)
     for (const auto &[type, name] : types) {
         const QByteArray file = bytesOf(write(type, name, {400, 200}));
         int pictures = 0;
-        const auto look = [&](const QImage &image) {
+        const auto look = [&, name = name](const QImage &image) {
             pictures += !image.isNull();
             EXPECT_TRUE(extentOf(image, Qt::green, 60).isEmpty()) << name.toStdString();
         };
