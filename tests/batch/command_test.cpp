@@ -2,10 +2,12 @@
 #include "platform/system/Folders.h"
 #include "support/Session.h"
 
+#include <fcntl.h>
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <unistd.h>
 
 namespace {
 
@@ -66,6 +68,35 @@ QRectF frameOf(const QJsonValue &mark)
 }
 
 } // namespace
+
+/// The photo is written; that nobody could be told of it counts all the same.
+TEST_F(CommandTest, AReportThatIsLostIsAFailure)
+{
+    TSDataManager data;
+    TSPhotoManager list;
+    TSOverlayManager overlays;
+    session.writePng("a.png", plainImage({60, 40}));
+    for (const auto &[device, status] :
+         {std::pair("/dev/full", TSBatchStatus::SomeNotWritten), {"/dev/null", TSBatchStatus::AllWritten}}) {
+        std::fflush(stdout);
+        const int before = dup(STDOUT_FILENO);
+        const int taken = open(device, O_WRONLY);
+        dup2(taken, STDOUT_FILENO);
+        testing::internal::CaptureStderr();
+        const int ended = TSBatchCommand::run({"--text", "A", "--json", "--output", outFolder(), "--conflict",
+                                               "replace", session.path("a.png")});
+        const std::string told = testing::internal::GetCapturedStderr();
+        std::fflush(stdout);
+        dup2(before, STDOUT_FILENO);
+        close(before);
+        close(taken);
+        EXPECT_EQ(ended, status) << device;
+        EXPECT_EQ(told.empty(), status == TSBatchStatus::AllWritten) << told;
+        data.removeAllPhotos();
+        overlays.removeAllOverlay();
+    }
+    EXPECT_EQ(files(), words("a.jpg"));
+}
 
 /// Before anything is promised or begun, whether it was typed or comes out of a date.
 TEST_F(CommandTest, ANameThatNoFileCanHaveIsRefused)
