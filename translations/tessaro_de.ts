@@ -26,6 +26,10 @@
         <source>Change all photos or the selected one</source>
         <translation>Alle Fotos oder das ausgewählte ändern</translation>
     </message>
+    <message id="BmpHoldsTiff">
+        <source>The file holds TIFF data</source>
+        <translation>Die Datei enthält TIFF-Daten</translation>
+    </message>
     <message id="By Height">
         <source>By Height</source>
         <translation>Nach Höhe</translation>

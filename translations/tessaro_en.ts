@@ -26,6 +26,10 @@
         <source>Change all photos or the selected one</source>
         <translation>Change all photos or the selected one</translation>
     </message>
+    <message id="BmpHoldsTiff">
+        <source>The file holds TIFF data</source>
+        <translation>The file holds TIFF data</translation>
+    </message>
     <message id="By Height">
         <source>By Height</source>
         <translation>By Height</translation>

@@ -25,6 +25,10 @@
         <source>Change all photos or the selected one</source>
         <translation>更改所有照片或仅所选照片</translation>
     </message>
+    <message id="BmpHoldsTiff">
+        <source>The file holds TIFF data</source>
+        <translation>文件内容为 TIFF 数据</translation>
+    </message>
     <message id="By Height">
         <source>By Height</source>
         <translation>按高度</translation>

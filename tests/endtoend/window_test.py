@@ -303,7 +303,7 @@ class WindowTest(unittest.TestCase):
         until("end of the sheet", lambda: len(self.desktop.windows()) == 1)
         until("window with the keys", lambda: self.desktop.focus()[0] == self.desktop.main)
         self.start_export()
-        (photo,) = until("exported photo", lambda: list(self.target.glob("*.png")))
+        (photo,) = until("exported photo", lambda: list(self.target.glob("*.png")) or None)
         # The bar before it stays for half a second, as has been seen when it is gone.
         time.sleep(2)
         report = until("report with the keys", lambda: self.with_keys_but(self.desktop.main))

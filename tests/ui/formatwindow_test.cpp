@@ -188,6 +188,7 @@ TEST_F(FormatWindowTest, FormatsOtherThanJpgKeepTheQualityAndLockIt)
     for (const auto &[extension, type, isEnabled] : formats) {
         const qsizetype before = nameChanges.count();
         child<QComboBox>("pubFormat")->setCurrentText(QString::fromLatin1(extension).toUpper());
+        EXPECT_EQ(child<QLabel>("lbFormat")->isHidden(), QByteArray(extension) != "bmp");
         EXPECT_EQ(session.data.exportFormat, extension);
         EXPECT_EQ(session.data.type, type);
         EXPECT_EQ(session.defaults->integerForKey("ExportFormat"),

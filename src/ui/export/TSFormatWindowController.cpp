@@ -4,6 +4,7 @@
 #include "controls/TSStepper.h"
 #include "controls/TSTheme.h"
 #include "controls/TSValueTrio.h"
+#include "session/TSDataManager.h"
 #include "session/TSNotificationCenter.h"
 #include "ui/export/TSNamePatternView.h"
 #include "ui/export/TSSizeView.h"
@@ -41,6 +42,7 @@ TSFormatWindowController::TSFormatWindowController(TSOutputSettings &settings, Q
     , m_settings(settings)
     , m_tfTitle(new QLabel(this))
     , m_pubFormat(newPopUp("pubFormat", qtTrId("Format"), this))
+    , m_lbFormat(newLabel(qtTrId("BmpHoldsTiff"), this))
     , m_lbQuality(newLabel(qtTrId("Quality"), this))
     , m_quality(
           new TSValueTrio(QStringLiteral("Quality"), qtTrId("Quality"), TSValueTrio::Parts::WithSlider, this))
@@ -51,6 +53,7 @@ TSFormatWindowController::TSFormatWindowController(TSOutputSettings &settings, Q
 {
     setObjectName(QStringLiteral("FormatWindow"));
     m_tfTitle->setFont(TSTheme::titleFont());
+    m_lbFormat->setObjectName(QStringLiteral("lbFormat"));
     m_lbQuality->setObjectName(QStringLiteral("lbQuality"));
     m_quality->setRange(1, bestQuality);
     m_quality->setValue(settings.quality());
@@ -84,6 +87,8 @@ void TSFormatWindowController::makeLayout()
     grid->setVerticalSpacing(TSTheme::spacing);
     grid->setColumnStretch(1, 1);
     addRow(*grid, newLabel(qtTrId("Format"), this), m_pubFormat);
+    // Beside the pop-up, in what it leaves of the row.
+    grid->addWidget(m_lbFormat, 0, 1, Qt::AlignRight);
     addRow(*grid, m_lbQuality, m_quality);
     addRow(*grid, newLabel(qtTrId("Resize"), this), m_pubResizeWay);
     // One column of labels through the sheet.
@@ -180,6 +185,7 @@ void TSFormatWindowController::formatChanged(int index)
     m_settings.formatChanged(index);
     for (QWidget *part : {static_cast<QWidget *>(m_lbQuality), static_cast<QWidget *>(m_quality)})
         part->setEnabled(m_settings.isQualityEnabled());
+    m_lbFormat->setVisible(TSDataManager::dataManager()->type == TSFileType::BMP);
 }
 
 void TSFormatWindowController::resizeWayChanged()

@@ -48,6 +48,7 @@ private:
     TSOutputSettings &m_settings;
     QLabel *m_tfTitle;
     QComboBox *m_pubFormat;
+    QLabel *m_lbFormat;
     QLabel *m_lbQuality;
     TSValueTrio *m_quality;
     QComboBox *m_pubResizeWay;
