@@ -23,6 +23,11 @@ struct Parse {
     TSBatchOptions options;
     bool optionsHaveEnded = false;
 
+    TSBatchMark &addMark(TSBatchMark::Kind kind)
+    {
+        options.marks.emplace_back().kind = kind;
+        return options.marks.back();
+    }
     TSBatchMark *lastMark() { return options.marks.empty() ? nullptr : &options.marks.back(); }
     bool lastIs(TSBatchMark::Kind kind) { return lastMark() && lastMark()->kind == kind; }
     bool lastIsBlock() { return lastIs(TSBatchMark::Kind::Profile) || lastIs(TSBatchMark::Kind::Group); }
@@ -54,10 +59,7 @@ Problem addWords(Parse &parse, const QString &value)
         return words.error;
     if (value.isEmpty())
         return QStringLiteral("the text is empty");
-    TSBatchMark mark;
-    mark.kind = kind;
-    mark.words = std::move(words.values);
-    parse.options.marks.push_back(std::move(mark));
+    parse.addMark(kind).words = std::move(words.values);
     return std::nullopt;
 }
 
@@ -65,21 +67,16 @@ Problem addImage(Parse &parse, const QString &value)
 {
     if (!platform::isDecodableImage(value) && !platform::Picture::load(value))
         return QStringLiteral("\"%1\" is not a picture that can be read").arg(value);
-    TSBatchMark mark;
-    mark.kind = TSBatchMark::Kind::Image;
-    mark.imagePath = QFileInfo(value).absoluteFilePath();
-    parse.options.marks.push_back(std::move(mark));
+    parse.addMark(TSBatchMark::Kind::Image).imagePath = QFileInfo(value).absoluteFilePath();
     return std::nullopt;
 }
 
 Problem addProfile(Parse &parse, const QString &value)
 {
-    TSBatchMark mark;
-    mark.kind = TSBatchMark::Kind::Profile;
-    mark.profilePath = TSProfileLibrary::find(value);
-    if (mark.profilePath.isEmpty())
+    const QString path = TSProfileLibrary::find(value);
+    if (path.isEmpty())
         return QStringLiteral("there is no profile \"%1\"; --list-profiles shows which there are").arg(value);
-    parse.options.marks.push_back(std::move(mark));
+    parse.addMark(TSBatchMark::Kind::Profile).profilePath = path;
     return std::nullopt;
 }
 
@@ -214,12 +211,13 @@ Problem setFormat(Parse &parse, const QString &value)
     return std::nullopt;
 }
 
-Problem setQuality(Parse &parse, const QString &value)
+template <int TSBatchOptions::*field, int most>
+Problem setCount(Parse &parse, const QString &value)
 {
-    const auto quality = TSBatchValues::wholeNumber(value, 1, 100);
-    if (!quality)
-        return notOne(value, "a whole number from 1 to 100");
-    parse.options.quality = *quality;
+    const auto count = TSBatchValues::wholeNumber(value, 1, most);
+    if (!count)
+        return QStringLiteral("\"%1\" is not a whole number from 1 to %2").arg(value).arg(most);
+    parse.options.*field = *count;
     return std::nullopt;
 }
 
@@ -239,15 +237,6 @@ Problem setName(Parse &parse, const QString &value)
     return std::nullopt;
 }
 
-Problem setJobs(Parse &parse, const QString &value)
-{
-    const auto jobs = TSBatchValues::wholeNumber(value, 1, 64);
-    if (!jobs)
-        return notOne(value, "a whole number from 1 to 64");
-    parse.options.jobs = *jobs;
-    return std::nullopt;
-}
-
 Problem setSavedProfile(Parse &parse, const QString &value)
 {
     const QString problem = TSProfileLibrary::problemWithName(value);
@@ -259,14 +248,12 @@ Problem setSavedProfile(Parse &parse, const QString &value)
 
 Problem setConflict(Parse &parse, const QString &value)
 {
-    if (value == u"rename")
-        parse.options.conflict = TSConflictChoice::Rename;
-    else if (value == u"replace")
-        parse.options.conflict = TSConflictChoice::Replace;
-    else if (value == u"stop")
-        parse.options.conflict = TSConflictChoice::Stop;
-    else
+    static const QHash<QString, int> choices{{"rename", TSConflictChoice::Rename},
+                                             {"replace", TSConflictChoice::Replace},
+                                             {"stop", TSConflictChoice::Stop}};
+    if (!choices.contains(value))
         return notOne(value, "a way to deal with taken names");
+    parse.options.conflict = choices.value(value);
     return std::nullopt;
 }
 
@@ -280,8 +267,7 @@ Problem setFlag(Parse &parse, const QString &)
 constexpr std::array<Option, 30> table = {
     {{"text", "STRING",
       "a text; {NAME} {COUNTER} {MODEL} {EXPOSURE} {FNUMBER} {ISO} {FOCAL} {C_DATE} {M_DATE} {DATE} {TIME} "
-      "are "
-      "wildcards, {{ and }} are braces",
+      "are wildcards, {{ and }} are braces",
       addWords<TSBatchMark::Kind::Text>},
      {"image", "FILE", "a picture", addImage},
      {"script", "STRING", "a text tiled over the whole photo, --height high",
@@ -307,13 +293,15 @@ constexpr std::array<Option, 30> table = {
       setShadow},
      {"output", "DIR", "the folder to write to", setOutput},
      {"format", "jpg|png|bmp|tiff", "what to write (jpg); bmp files hold TIFF data", setFormat},
-     {"quality", "1..100", "the quality of a JPEG made from a photo (85)", setQuality},
+     {"quality", "1..100", "the quality of a JPEG made from a photo (85)",
+      setCount<&TSBatchOptions::quality, 100>},
      {"resize", "keep|width=N|height=N|percent=N|fit=WxH", "the size of the output (keep)", setResize},
      {"name", "PATTERN",
       "its name ({Name}); also {Name:lower} {Name:UPPER} {Number:001} {Created:MM-dd-yyyy} {Modified}",
       setName},
      {"conflict", "rename|replace|stop", "what to do when a name is taken (rename)", setConflict},
-     {"jobs", "N", "how many photos to work on at once (as many as there are processors)", setJobs},
+     {"jobs", "N", "how many photos to work on at once (as many as there are processors)",
+      setCount<&TSBatchOptions::jobs, 64>},
      {"strict", "", "do not write a photo on which no mark shows, and count it as failed",
       setFlag<&TSBatchOptions::isStrict>},
      {"save-profile", "NAME", "save the marks as a profile; without --output that is all that is done",
