@@ -140,7 +140,8 @@ try {
 void TSOutputWriter::encode(const platform::LazyImage &picture, const TSOutputRequest &request,
                             TSEncodedOutput &output) const
 {
-    if (request.type == TSFileType::JPG) {
+    // Metadata stands before the picture, and holds a small copy that is there only behind it.
+    if (request.type == TSFileType::JPG && takesMetadata(request)) {
         output.bytes = picture.encodeJpeg(optionsFor(request, output.source), isCancelled);
         return;
     }
@@ -151,10 +152,12 @@ void TSOutputWriter::encode(const platform::LazyImage &picture, const TSOutputRe
         output.reason = file->failure(rawLength(picture));
 }
 
-/// Without compression these files grow with the pixels, and are never in memory.
+/// These files grow with the pixels, and are never in memory.
 bool TSOutputWriter::stream(const platform::LazyImage &picture, const TSOutputRequest &request,
                             const platform::CarriedMetadata &carried, platform::AtomicFile &file) const
 {
+    if (request.type == TSFileType::JPG)
+        return picture.encodeJpeg(file.device(), optionsFor(request, std::nullopt), isCancelled);
     if (request.type == TSFileType::PNG)
         return picture.encodePng(file.device(), isCancelled);
     // Files of the BMP type have always held TIFF data; readers of ours go by contents.

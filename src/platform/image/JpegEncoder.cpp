@@ -4,9 +4,12 @@
 
 #include <csetjmp>
 #include <cstdio>
+#include <QIODevice>
 
-// libjpeg's header needs stdio's types declared before it.
+// libjpeg's headers need stdio's types declared before them.
 #include <jpeglib.h>
+
+#include <jerror.h>
 
 namespace platform {
 
@@ -27,10 +30,11 @@ struct ErrorManager {
 
 void discardWarning(j_common_ptr, int) {}
 
-/// Collects the compressed bytes, growing in large steps.
+/// Collects the compressed bytes, growing in large steps, or hands each step on to a device.
 struct Destination {
     jpeg_destination_mgr base;
     QByteArray *bytes;
+    QIODevice *device;
 };
 
 constexpr qsizetype growth = 1 << 20;
@@ -42,6 +46,12 @@ void grow(Destination *to, qsizetype used)
     to->base.free_in_buffer = size_t(growth);
 }
 
+void handOn(j_compress_ptr info, const Destination &to)
+{
+    if (to.device->write(*to.bytes) != to.bytes->size())
+        ERREXIT(info, JERR_FILE_WRITE);
+}
+
 void beginOutput(j_compress_ptr info)
 {
     grow(reinterpret_cast<Destination *>(info->dest), 0);
@@ -50,7 +60,9 @@ void beginOutput(j_compress_ptr info)
 boolean growOutput(j_compress_ptr info)
 {
     auto *to = reinterpret_cast<Destination *>(info->dest);
-    grow(to, to->bytes->size());
+    if (to->device)
+        handOn(info, *to);
+    grow(to, to->device ? 0 : to->bytes->size());
     return TRUE;
 }
 
@@ -58,18 +70,21 @@ void endOutput(j_compress_ptr info)
 {
     auto *to = reinterpret_cast<Destination *>(info->dest);
     to->bytes->resize(to->bytes->size() - qsizetype(to->base.free_in_buffer));
+    if (to->device)
+        handOn(info, *to);
 }
 
 /// libjpeg's compressor with its error jumps kept inside; every function answers whether it worked.
 class Compressor {
 public:
-    explicit Compressor(QByteArray *bytes)
+    explicit Compressor(QByteArray *bytes, QIODevice *device)
     {
         m_info.err = jpeg_std_error(&m_errors.base);
         m_errors.base.error_exit = failEncoding;
         m_errors.base.emit_message = discardWarning;
         m_destination.base = {nullptr, 0, beginOutput, growOutput, endOutput};
         m_destination.bytes = bytes;
+        m_destination.device = device;
     }
     ~Compressor() { jpeg_destroy_compress(&m_info); }
     Compressor(const Compressor &) = delete;
@@ -142,20 +157,29 @@ int writeArea(VipsRegion *region, VipsRect *area, void *compressor)
     return static_cast<Compressor *>(compressor)->write(region, area) ? 0 : -1;
 }
 
+bool encode(VipsImage *image, const JpegOptions &options, QByteArray &bytes, QIODevice *device)
+{
+    Compressor compressor(&bytes, device);
+    if (image->Bands != 3 || image->BandFmt != VIPS_FORMAT_UCHAR) {
+        vips_error("JPEG", "the picture is not 8-bit RGB");
+        return false;
+    }
+    return compressor.start(image, options, sRGBProfile()) &&
+           vips_sink_disc(image, writeArea, &compressor) == 0 && compressor.finish();
+}
+
 } // namespace
 
 QByteArray encodeJpeg(VipsImage *image, const JpegOptions &options)
 {
     QByteArray bytes;
-    Compressor compressor(&bytes);
-    if (image->Bands != 3 || image->BandFmt != VIPS_FORMAT_UCHAR) {
-        vips_error("JPEG", "the picture is not 8-bit RGB");
-        return {};
-    }
-    if (!compressor.start(image, options, sRGBProfile()) || vips_sink_disc(image, writeArea, &compressor) ||
-        !compressor.finish())
-        return {};
-    return bytes;
+    return encode(image, options, bytes, nullptr) ? bytes : QByteArray();
+}
+
+bool encodeJpeg(VipsImage *image, const JpegOptions &options, QIODevice &to)
+{
+    QByteArray step;
+    return encode(image, options, step, &to);
 }
 
 } // namespace platform

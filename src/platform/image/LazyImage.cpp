@@ -229,6 +229,13 @@ QByteArray LazyImage::encodeJpeg(const JpegOptions &options, const CancelTest &i
     return image ? platform::encodeJpeg(image.get(), options) : QByteArray();
 }
 
+bool LazyImage::encodeJpeg(QIODevice &to, const JpegOptions &options, const CancelTest &isCancelled) const
+{
+    const LazyImage opaque = flattened();
+    const VipsImagePtr image = opaque.isEmpty() ? nullptr : cancellable(opaque.vips(), isCancelled);
+    return image && platform::encodeJpeg(image.get(), options, to);
+}
+
 QByteArray LazyImage::encodePng(const CancelTest &isCancelled) const
 {
     const VipsImagePtr image = m_image ? prepared(m_image.get(), isCancelled) : nullptr;

@@ -69,6 +69,7 @@ public:
     QByteArray encodePng(const CancelTest &isCancelled = {}) const;
     QByteArray encodeTiff(const CancelTest &isCancelled = {}) const;
     /// The same straight into a device, from where it stands; they answer whether it worked.
+    bool encodeJpeg(QIODevice &to, const JpegOptions &options, const CancelTest &isCancelled) const;
     bool encodePng(QIODevice &to, const CancelTest &isCancelled) const;
     bool encodeTiff(QIODevice &to, const CancelTest &isCancelled, bool keepsDensity) const;
     /// The whole picture in memory, RGB32 or premultiplied ARGB32.
