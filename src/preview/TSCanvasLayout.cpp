@@ -80,29 +80,10 @@ void TSCanvasLayout::updateOutputSize()
     if (!m_photo)
         return;
     const TSDataManager *data = TSDataManager::dataManager();
-    QSizeF &out = m_photo->photoOutputSize;
-    switch (data->resizeWay) {
-    case TSResizeWay::KeepOriginalSize:
-        out = m_photo->photoSize;
-        break;
-    case TSResizeWay::ByWidth:
-        out = QSizeF(data->outputWidth, m_photo->ratio * data->outputWidth);
-        break;
-    case TSResizeWay::ByHeight:
-        out = QSizeF(data->outputHeight / m_photo->ratio, data->outputHeight);
-        break;
-    case TSResizeWay::ByPercentage:
-        out = m_photo->photoSize * data->percentage / 100;
-        break;
-    case TSResizeWay::FitSize:
-        if (data->outputWidth > 0 && data->outputHeight > 0)
-            out = TSAspectFitRect(atOrigin(m_photo->photoSize),
-                                  QRectF(0, 0, data->outputWidth, data->outputHeight))
-                      .size();
-        break;
-    default:
-        break;
-    }
+    const bool fitsNothing =
+        data->resizeWay == TSResizeWay::FitSize && !(data->outputWidth > 0 && data->outputHeight > 0);
+    if (data->resizeWay <= TSResizeWay::FitSize && !fitsNothing)
+        m_photo->photoOutputSize = data->sizeFor(m_photo->photoSize);
 }
 
 void TSCanvasLayout::updateCanvasViewFrameByFit()
