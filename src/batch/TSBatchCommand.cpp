@@ -5,8 +5,8 @@
 #include "batch/TSBatchSignals.h"
 #include "naming/TSNamePattern.h"
 #include "naming/TSNameRefusal.h"
-#include "overlays/TSGroup.h"
 #include "overlays/TSOverlayManager.h"
+#include "overlays/TSOverlayWalk.h"
 #include "overlays/TSText.h"
 #include "platform/system/UserDefaults.h"
 #include "platform/text/FontChoice.h"
@@ -48,15 +48,15 @@ int tell(const QString &text)
     return TSBatchStatus::AllWritten;
 }
 
-void collectFonts(const TSOverlayManager::Overlays &overlays, QSet<QString> &families)
+QSet<QString> fontsInUse()
 {
-    for (const auto &overlay : overlays) {
-        if (const auto *group = dynamic_cast<const TSGroup *>(overlay.get()))
-            collectFonts(group->overlaysOfGroup(), families);
-        const auto *text = dynamic_cast<const TSText *>(overlay.get());
+    QSet<QString> families;
+    TSForEachOverlay(TSOverlayManager::overlayManager()->overlays(), [&families](const TSOverlay &overlay) {
+        const auto *text = dynamic_cast<const TSText *>(&overlay);
         if (text && text->fontDic().font)
             families.insert(text->fontDic().font->family);
-    }
+    });
+    return families;
 }
 
 void collectPictures(const std::vector<TSBatchMark> &marks, QStringList &paths)
@@ -169,8 +169,7 @@ bool TSBatchCommand::saveProfile()
 /// Answers whether texts can be drawn at all, if there are any.
 bool TSBatchCommand::warnOfFonts()
 {
-    QSet<QString> families;
-    collectFonts(TSOverlayManager::overlayManager()->overlays(), families);
+    const QSet<QString> families = fontsInUse();
     if (!families.isEmpty() && !platform::hasAnyFont()) {
         m_reporter.warning(QStringLiteral("no font is installed, so that texts cannot be drawn"));
         return false;

@@ -28,13 +28,12 @@ public:
     }
 
 private:
+    Trap(const Trap &) = default;
+
     struct Held {
         QSemaphore reached, letGo;
     };
     std::shared_ptr<Held> m_held = std::make_shared<Held>();
-
-protected:
-    Trap(const Trap &) = default;
 
 public:
     QSemaphore &reached = m_held->reached;
